@@ -1,0 +1,21 @@
+# Headers, libraries, the CMake package and the pkg-config file.
+
+include(CMakePackageConfigHelpers)
+
+set(OM_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/om)
+set(OM_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/om)
+
+install(TARGETS om om-cells om-settings om-platform om-blocks EXPORT omTargets
+        FILE_SET HEADERS DESTINATION ${OM_INSTALL_INCLUDEDIR}
+        INCLUDES DESTINATION ${OM_INSTALL_INCLUDEDIR})
+install(EXPORT omTargets NAMESPACE om:: DESTINATION ${OM_INSTALL_CMAKEDIR})
+
+configure_package_config_file(cmake/omConfig.cmake.in omConfig.cmake
+                              INSTALL_DESTINATION ${OM_INSTALL_CMAKEDIR})
+write_basic_package_version_file(omConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/omConfig.cmake ${PROJECT_BINARY_DIR}/omConfigVersion.cmake
+        DESTINATION ${OM_INSTALL_CMAKEDIR})
+
+configure_file(cmake/om.pc.in om.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/om.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

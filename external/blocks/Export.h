@@ -1,0 +1,16 @@
+// Marks what the common-blocks library offers to other libraries and programs.
+
+#ifndef OM_EXTERNAL_BLOCKS_EXPORT_H_
+#define OM_EXTERNAL_BLOCKS_EXPORT_H_
+
+#if defined(_WIN32)
+#if defined(OM_BLOCKS_BUILDING)
+#define OM_BLOCKS_API __declspec(dllexport)
+#else
+#define OM_BLOCKS_API __declspec(dllimport)
+#endif
+#else
+#define OM_BLOCKS_API __attribute__((visibility("default")))
+#endif
+
+#endif  // OM_EXTERNAL_BLOCKS_EXPORT_H_

@@ -1,0 +1,268 @@
+#include "external/cells/OmMemoryRegion.h"
+
+#include <algorithm>
+#include <atomic>
+#include <bit>
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+#include "external/cells/internal/Poison.h"
+
+using om::internal::poison;
+using om::internal::unpoison;
+
+// Stands at the start of what the system gave. Its size leaves the first block aligned.
+struct OmMemoryRegion::Chunk {
+  Chunk* next;
+  Chunk* previous;
+  OmMemoryRegion* region;
+  std::size_t bytes;
+  std::size_t unused;
+};
+
+// Stands before every block. A block that is a chunk of its own has 0 units.
+struct OmMemoryRegion::Head {
+  std::uint32_t unitsFromChunk;
+  std::uint32_t units;
+
+  static Head* of(void* block) noexcept { return static_cast<Head*>(block) - 1; }
+  void* block() noexcept { return this + 1; }
+};
+
+// What a released block holds.
+struct OmMemoryRegion::FreeBlock {
+  FreeBlock* next;
+};
+
+namespace {
+
+constexpr std::size_t kUnit = 16;
+constexpr std::size_t kHeadBytes = 8;
+constexpr std::size_t kChunkHeadBytes = 40;
+constexpr std::size_t kLargestCarved = 32 * 1024;
+constexpr std::size_t kFirstChunkBytes = 4 * 1024;
+constexpr std::size_t kLargestChunkBytes = 1024 * 1024;
+
+static_assert(alignof(std::max_align_t) <= kUnit);
+static_assert((kChunkHeadBytes + kHeadBytes) % kUnit == 0);
+
+std::atomic<OmMemoryRegion::AllocationProbe> allocationProbe{nullptr};
+
+std::uint32_t unitsFor(std::size_t size) noexcept {
+  return static_cast<std::uint32_t>((size + kHeadBytes + kUnit - 1) / kUnit);
+}
+
+// REQUIRES: units > 64. Four lists for each doubling, by the two bits after the leading one.
+std::size_t rangeOf(std::uint32_t units) noexcept {
+  const auto width = static_cast<std::uint32_t>(std::bit_width(units));
+  return (width - 7) * 4 + ((units >> (width - 3)) & 3);
+}
+
+class LockWhen {
+ public:
+  LockWhen(std::mutex& mutex, bool needed) : mutex_(needed ? &mutex : nullptr) {
+    if (mutex_ != nullptr) mutex_->lock();
+  }
+  ~LockWhen() {
+    if (mutex_ != nullptr) mutex_->unlock();
+  }
+  LockWhen(const LockWhen&) = delete;
+  LockWhen& operator=(const LockWhen&) = delete;
+
+ private:
+  std::mutex* mutex_;
+};
+
+}  // namespace
+
+OmMemoryRegion::OmMemoryRegion(bool shared) : shared_(shared), nextChunkBytes_(kFirstChunkBytes) {
+  static_assert(sizeof(Chunk) == kChunkHeadBytes && sizeof(Head) == kHeadBytes);
+}
+
+OmMemoryRegion::~OmMemoryRegion() {
+  while (chunks_ != nullptr) dropChunk(chunks_);
+}
+
+void* OmMemoryRegion::Allocate(std::size_t size) {
+  if (const AllocationProbe probe = allocationProbe.load(std::memory_order_relaxed)) probe(size);
+  if (!shared_) return take(size);
+  const LockWhen lock(mutex_, true);
+  return take(size);
+}
+
+void OmMemoryRegion::Release(void* block) noexcept {
+  if (block == nullptr) return;
+  Head* const head = Head::of(block);
+  OmMemoryRegion* const region = chunkOf(head)->region;
+  if (!region->shared_) return region->giveBack(head);
+  const LockWhen lock(region->mutex_, true);
+  region->giveBack(head);
+}
+
+OmMemoryRegion* OmMemoryRegion::DefaultHeap() noexcept {
+  // Never destroyed: texts that live in it may outlast every static object.
+  alignas(OmMemoryRegion) static std::byte storage[sizeof(OmMemoryRegion)];
+  static OmMemoryRegion* const heap = ::new (static_cast<void*>(storage)) OmMemoryRegion(true);
+  return heap;
+}
+
+void OmMemoryRegion::WorkingRelease(bool reuse) noexcept {
+  const LockWhen lock(mutex_, shared_);
+  reuse_ = reuse;
+}
+
+std::size_t OmMemoryRegion::BytesInUse() const {
+  const LockWhen lock(mutex_, shared_);
+  return bytesInUse_;
+}
+
+std::size_t OmMemoryRegion::BlocksInUse() const {
+  const LockWhen lock(mutex_, shared_);
+  return blocksInUse_;
+}
+
+OmMemoryRegion::AllocationProbe OmMemoryRegion::SetAllocationProbe(AllocationProbe probe) noexcept {
+  return allocationProbe.exchange(probe);
+}
+
+void* OmMemoryRegion::take(std::size_t size) {
+  Head* const head = size <= kLargestCarved - kHeadBytes ? carve(unitsFor(size)) : takeChunk(size);
+  bytesInUse_ += bytesOf(head);
+  ++blocksInUse_;
+  unpoison(head->block(), size);
+  return head->block();
+}
+
+void OmMemoryRegion::giveBack(Head* head) noexcept {
+  bytesInUse_ -= bytesOf(head);
+  --blocksInUse_;
+  if (!reuse_) {
+    poison(head->block(), bytesOf(head) - kHeadBytes);
+  } else if (head->units != 0) {
+    pushFree(head);
+  } else {
+    dropChunk(chunkOf(head));
+  }
+}
+
+OmMemoryRegion::Head* OmMemoryRegion::carve(std::uint32_t units) {
+  if (Head* const released = popFree(units)) return released;
+  if (static_cast<std::size_t>(bumpEnd_ - bump_) < units * kUnit) refill(units);
+  Head* const head = lay(bumpChunk_, bump_, units);
+  bump_ += units * kUnit;
+  return head;
+}
+
+// Finds new room to carve from, once the present room is too short; what was left of it becomes a
+// released block. Small requests eat up the largest released block before a chunk is added.
+void OmMemoryRegion::refill(std::uint32_t units) {
+  Chunk* chunk;
+  char* begin;
+  std::size_t available;
+  if (units <= kSmallUnits && rangesFilled_ != 0) {
+    Head* const largest = popRange(static_cast<std::size_t>(std::bit_width(rangesFilled_)) - 1);
+    chunk = chunkOf(largest);
+    begin = reinterpret_cast<char*>(largest);
+    available = largest->units;
+  } else {
+    chunk = newChunk(std::max(nextChunkBytes_, kChunkHeadBytes + units * kUnit));
+    nextChunkBytes_ = std::min(2 * nextChunkBytes_, kLargestChunkBytes);
+    begin = reinterpret_cast<char*>(chunk + 1);
+    available = (chunk->bytes - kChunkHeadBytes) / kUnit;
+  }
+  const auto left = static_cast<std::uint32_t>(static_cast<std::size_t>(bumpEnd_ - bump_) / kUnit);
+  if (left != 0) pushFree(lay(bumpChunk_, bump_, left));
+  bump_ = begin;
+  bumpEnd_ = begin + available * kUnit;
+  bumpChunk_ = chunk;
+}
+
+OmMemoryRegion::Head* OmMemoryRegion::popFree(std::uint32_t units) noexcept {
+  if (units <= kSmallUnits) {
+    FreeBlock*& list = small_[units - 1];
+    return list == nullptr ? nullptr : pop(list);
+  }
+  // Blocks of this list may be shorter than asked for; those of every later list are long enough.
+  std::size_t list = rangeOf(units);
+  const bool firstFits = ranges_[list] != nullptr && Head::of(ranges_[list])->units >= units;
+  if (!firstFits) {
+    const std::uint32_t later = rangesFilled_ & ~((std::uint32_t{2} << list) - 1);
+    if (later == 0) return nullptr;
+    list = static_cast<std::size_t>(std::countr_zero(later));
+  }
+  Head* const head = popRange(list);
+  const std::uint32_t left = head->units - units;
+  head->units = units;
+  if (left != 0) pushFree(lay(chunkOf(head), reinterpret_cast<char*>(head) + units * kUnit, left));
+  return head;
+}
+
+void OmMemoryRegion::pushFree(Head* head) noexcept {
+  FreeBlock** list;
+  if (head->units <= kSmallUnits) {
+    list = &small_[head->units - 1];
+  } else {
+    const std::size_t range = rangeOf(head->units);
+    list = &ranges_[range];
+    rangesFilled_ |= std::uint32_t{1} << range;
+  }
+  unpoison(head->block(), sizeof(FreeBlock));
+  *list = ::new (head->block()) FreeBlock{*list};
+  poison(head->block(), bytesOf(head) - kHeadBytes);
+}
+
+// REQUIRES: the list is not empty.
+OmMemoryRegion::Head* OmMemoryRegion::popRange(std::size_t list) noexcept {
+  Head* const head = pop(ranges_[list]);
+  if (ranges_[list] == nullptr) rangesFilled_ &= ~(std::uint32_t{1} << list);
+  return head;
+}
+
+// REQUIRES: the list is not empty.
+OmMemoryRegion::Head* OmMemoryRegion::pop(FreeBlock*& list) noexcept {
+  FreeBlock* const block = list;
+  unpoison(block, sizeof(FreeBlock));
+  list = block->next;
+  poison(block, sizeof(FreeBlock));
+  return Head::of(block);
+}
+
+OmMemoryRegion::Head* OmMemoryRegion::lay(Chunk* chunk, char* place, std::uint32_t units) noexcept {
+  const auto distance = static_cast<std::size_t>(place - reinterpret_cast<char*>(chunk + 1));
+  unpoison(place, kHeadBytes);
+  return ::new (static_cast<void*>(place))
+      Head{static_cast<std::uint32_t>(distance / kUnit), units};
+}
+
+OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size) {
+  constexpr std::size_t kAround = kChunkHeadBytes + kHeadBytes;
+  if (size > std::numeric_limits<std::size_t>::max() - kAround) throw std::bad_alloc();
+  Chunk* const chunk = newChunk(size + kAround);
+  return lay(chunk, reinterpret_cast<char*>(chunk + 1), 0);
+}
+
+OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
+  void* const place = std::malloc(bytes);
+  if (place == nullptr) throw std::bad_alloc();
+  auto* const chunk = ::new (place) Chunk{chunks_, nullptr, this, bytes, 0};
+  if (chunks_ != nullptr) chunks_->previous = chunk;
+  chunks_ = chunk;
+  poison(chunk + 1, bytes - kChunkHeadBytes);
+  return chunk;
+}
+
+void OmMemoryRegion::dropChunk(Chunk* chunk) noexcept {
+  (chunk->previous != nullptr ? chunk->previous->next : chunks_) = chunk->next;
+  if (chunk->next != nullptr) chunk->next->previous = chunk->previous;
+  unpoison(chunk, chunk->bytes);
+  std::free(chunk);
+}
+
+OmMemoryRegion::Chunk* OmMemoryRegion::chunkOf(Head* head) noexcept {
+  return reinterpret_cast<Chunk*>(reinterpret_cast<char*>(head) - head->unitsFromChunk * kUnit) - 1;
+}
+
+std::size_t OmMemoryRegion::bytesOf(Head* head) noexcept {
+  return head->units != 0 ? head->units * kUnit : chunkOf(head)->bytes;
+}

@@ -1,0 +1,109 @@
+// OmMemoryRegion: the allocator from which cell texts and the containers of a table draw storage.
+//
+// A region takes chunks from the system, hands out blocks from them by moving a pointer, and keeps
+// released blocks in lists by size for the next request. Destroying the region gives back every
+// chunk at once, whatever blocks are still in use; no destructor of what lives in them is run.
+//
+//   chunk   | chunk head | head | block ...      | head | block ... | not handed out yet |
+//                          8 B    16-byte steps
+//
+// Ownership: a region owns its chunks; a block belongs to whoever asked for it until it is given to
+//   Release or the region ends. A region never moves, so it can be a member or a base class.
+// Lifetime: the default heap lives as long as the process.
+// Threads: a region made with `shared` true, as the default heap is, may be used from several
+//   threads at once. Any other region, with all blocks that came from it, belongs to one thread at a
+//   time.
+// Cost: a block has 8 bytes of head and its size is rounded so that both are a multiple of 16.
+//   Blocks above 32 KiB are chunks of their own, cost 48 bytes, and go back to the system when they
+//   are released. Allocate and Release take constant time.
+
+#ifndef OM_EXTERNAL_CELLS_OMMEMORYREGION_H_
+#define OM_EXTERNAL_CELLS_OMMEMORYREGION_H_
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <mutex>
+
+#include "external/cells/Export.h"
+
+class OM_CELLS_API OmMemoryRegion {
+ public:
+  // Called before every allocation of every region, with the size asked for. It may throw, and
+  // then nothing has been allocated: this is how a test makes any one allocation fail.
+  using AllocationProbe = void (*)(std::size_t size);
+
+  // An empty region; it takes its first chunk with the first request.
+  explicit OmMemoryRegion(bool shared);
+  virtual ~OmMemoryRegion();
+
+  OmMemoryRegion(const OmMemoryRegion&) = delete;
+  OmMemoryRegion& operator=(const OmMemoryRegion&) = delete;
+
+  // A block of at least `size` bytes (0 gives a block of its own as well), aligned for every
+  // fundamental type, with undefined content. Throws std::bad_alloc; the region is then unchanged.
+  void* Allocate(std::size_t size);
+
+  // Gives a block back to the region it came from; null is harmless.
+  // REQUIRES: `block` came from Allocate, was not released since, and its region still lives.
+  static void Release(void* block) noexcept;
+
+  // The region that serves whoever names none.
+  static OmMemoryRegion* DefaultHeap() noexcept;
+  static OmMemoryRegion* OrDefaultHeap(OmMemoryRegion* region) noexcept {
+    return region != nullptr ? region : DefaultHeap();
+  }
+
+  // With `reuse` false, as before a bulk destruction, a released block is counted off and then left
+  // alone until the region ends. True, the state after construction, makes it available again.
+  void WorkingRelease(bool reuse) noexcept;
+
+  // Storage and number of the blocks that were allocated and not released; heads and rounding are
+  // counted in.
+  std::size_t BytesInUse() const;
+  std::size_t BlocksInUse() const;
+
+  // Installs a probe, or none with null, and gives the former one back.
+  static AllocationProbe SetAllocationProbe(AllocationProbe probe) noexcept;
+
+ private:
+  struct Chunk;
+  struct Head;
+  struct FreeBlock;
+
+  static constexpr std::uint32_t kSmallUnits = 64;  // blocks to 1 KiB: one list a size
+  static constexpr std::size_t kRangeLists = 21;    // to 32 KiB: four lists a doubling
+
+  void* take(std::size_t size);
+  void giveBack(Head* head) noexcept;
+
+  Head* carve(std::uint32_t units);
+  void refill(std::uint32_t units);
+  Head* popFree(std::uint32_t units) noexcept;
+  Head* popRange(std::size_t list) noexcept;
+  void pushFree(Head* head) noexcept;
+  Head* takeChunk(std::size_t size);
+  Chunk* newChunk(std::size_t bytes);
+  void dropChunk(Chunk* chunk) noexcept;
+
+  static Head* pop(FreeBlock*& list) noexcept;
+  static Head* lay(Chunk* chunk, char* place, std::uint32_t units) noexcept;
+  static Chunk* chunkOf(Head* head) noexcept;
+  static std::size_t bytesOf(Head* head) noexcept;
+
+  std::array<FreeBlock*, kSmallUnits> small_{};
+  std::array<FreeBlock*, kRangeLists> ranges_{};
+  std::uint32_t rangesFilled_ = 0;  // bit i: ranges_[i] is not empty
+  bool reuse_ = true;
+  const bool shared_;
+  char* bump_ = nullptr;  // the rest of the chunk that is being handed out
+  char* bumpEnd_ = nullptr;
+  Chunk* bumpChunk_ = nullptr;
+  Chunk* chunks_ = nullptr;
+  std::size_t nextChunkBytes_;
+  std::size_t bytesInUse_ = 0;
+  std::size_t blocksInUse_ = 0;
+  mutable std::mutex mutex_;  // taken only when shared_
+};
+
+#endif  // OM_EXTERNAL_CELLS_OMMEMORYREGION_H_

@@ -1,0 +1,16 @@
+// Marks what the platform library offers to other libraries and programs.
+
+#ifndef OM_EXTERNAL_PLATFORM_EXPORT_H_
+#define OM_EXTERNAL_PLATFORM_EXPORT_H_
+
+#if defined(_WIN32)
+#if defined(OM_PLATFORM_BUILDING)
+#define OM_PLATFORM_API __declspec(dllexport)
+#else
+#define OM_PLATFORM_API __declspec(dllimport)
+#endif
+#else
+#define OM_PLATFORM_API __attribute__((visibility("default")))
+#endif
+
+#endif  // OM_EXTERNAL_PLATFORM_EXPORT_H_
