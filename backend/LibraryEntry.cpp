@@ -16,11 +16,12 @@ constinit void* moduleHandle = nullptr;
 int omLibraryEntry(void* module, unsigned reason, void*) {
   if (reason == kOmProcessAttach) {
     moduleHandle = module;
-    om::internal::commonBlocks = {commonBlock01(), commonBlock02(), commonBlock03(), commonBlock04(), commonBlock05(),
-          commonBlock06(), commonBlock07(), commonBlock08(), commonBlock09(), commonBlock10(),
-          commonBlock11(), commonBlock12(), commonBlock13(), commonBlock14(), commonBlock15(),
-          commonBlock16(), commonBlock17(), commonBlock18(), commonBlock19(), commonBlock20(),
-          commonBlock21(), commonBlock22()};
+    om::internal::commonBlocks = {
+        commonBlock01(), commonBlock02(), commonBlock03(), commonBlock04(), commonBlock05(),
+        commonBlock06(), commonBlock07(), commonBlock08(), commonBlock09(), commonBlock10(),
+        commonBlock11(), commonBlock12(), commonBlock13(), commonBlock14(), commonBlock15(),
+        commonBlock16(), commonBlock17(), commonBlock18(), commonBlock19(), commonBlock20(),
+        commonBlock21(), commonBlock22()};
   }
   return 1;
 }

@@ -10,8 +10,8 @@
 inline constexpr unsigned kOmProcessAttach = 1;
 
 // For the attach reason, keeps `module` and asks the common-blocks library for its blocks, each one
-// once; for every other reason it does nothing. Gives 1, success, in any case. Called by the loader;
-// a program has no need to.
+// once; for every other reason it does nothing. Gives 1, success, in any case. Called by the
+// loader; a program has no need to.
 OM_EXPORT int omLibraryEntry(void* module, unsigned reason, void* reserved);
 
 // The handle that the loader gave for this library.

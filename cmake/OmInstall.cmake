@@ -16,6 +16,8 @@ write_basic_package_version_file(omConfigVersion.cmake COMPATIBILITY SameMinorVe
 install(FILES ${PROJECT_BINARY_DIR}/omConfig.cmake ${PROJECT_BINARY_DIR}/omConfigVersion.cmake
         DESTINATION ${OM_INSTALL_CMAKEDIR})
 
+# The pkg-config file finds the rest from where it stands, so that the whole can be moved.
+file(RELATIVE_PATH OM_PC_TO_INCLUDES /${CMAKE_INSTALL_LIBDIR}/pkgconfig /${OM_INSTALL_INCLUDEDIR})
 configure_file(cmake/om.pc.in om.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/om.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

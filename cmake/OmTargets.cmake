@@ -27,6 +27,10 @@ function(om_library_properties target)
     POSITION_INDEPENDENT_CODE ON
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  if(NOT MSVC)
+    # Calls within a library go straight to their target and can be inlined, exported or not.
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+  endif()
   if(OM_LINT)
     set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY "${OM_CLANG_TIDY};--quiet")
   endif()

@@ -1,13 +1,15 @@
-// OmOutputTree: the document that a run of the engine produces. It is a tree of output parts under a
-// root heading that is labelled "Output", and it owns its parts: Erase, Prune and the destructor
+// OmOutputTree: the document that a run of the engine produces. It is a tree of output parts under
+// a root heading that is labelled "Output", and it owns its parts: Erase, Prune and the destructor
 // delete them.
 //
 // Ownership: every record's item is a part made with `new`, or null. What leaves the tree through
 //   the operations of ListTree is not deleted: by a qualified call of ListTree's Erase or Prune it
 //   goes to the caller, by Move to the tree that receives it.
-// Copies: deliberately shallow. A copied or assigned tree shares its parts with its source, and only
+// Copies: deliberately shallow. A copied or assigned tree shares its parts with its source, and
+// only
 //   one of the two may be destroyed or edited through the operations that delete; the other one is
-//   let go by `List().clear()`. The parts that a tree held before it was assigned to are not deleted.
+//   let go by `List().clear()`. The parts that a tree held before it was assigned to are not
+//   deleted.
 // Lifetime, handles, cost, threads: as for ListTree.
 
 #ifndef OM_OUTPUT_OMOUTPUTTREE_H_
@@ -47,8 +49,8 @@ class OM_EXPORT OmOutputTree : public ListTree<OmOutputPart*> {
   // end node.
   void Erase(Node& n);
 
-  // Deletes the parts of `n` and of its whole subtree, children in order before the node itself, and
-  // removes their records. Nothing for the end node.
+  // Deletes the parts of `n` and of its whole subtree, children in order before the node itself,
+  // and removes their records. Nothing for the end node.
   void Prune(Node& n);
 };
 

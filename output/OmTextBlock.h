@@ -1,8 +1,8 @@
 // OmTextBlock: plain lines of text, such as the log of the commands that were run or a message left
 // where output was removed.
 //
-// Ownership: the lines and the code page are the block's own, also in a copy; the label is shared by
-// copies: see OmOutputPart.
+// Ownership: the lines and the code page are the block's own, also in a copy; the label is shared
+// by copies: see OmOutputPart.
 
 #ifndef OM_OUTPUT_OMTEXTBLOCK_H_
 #define OM_OUTPUT_OMTEXTBLOCK_H_

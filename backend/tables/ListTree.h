@@ -15,8 +15,8 @@
 //   destroys what they refer to.
 // Handles: Node and ConstNode are small values. A handle is invalid once its record is removed; all
 //   other handles stay valid. A handle keeps the level that the record had when it was made, and
-//   Level() and everything that does not say otherwise go by that level, also after Flatten or Erase
-//   of an ancestor has lifted the record. A handle on the end of the list is the end node.
+//   Level() and everything that does not say otherwise go by that level, also after Flatten or
+//   Erase of an ancestor has lifted the record. A handle on the end of the list is the end node.
 // Cost: every edit is linear in the subtree that it touches and allocates nothing but records.
 // Threads: a tree and its handles belong to one thread at a time.
 // Errors: std::bad_alloc where records are added; the tree is then as before.
@@ -25,10 +25,11 @@
 #define OM_BACKEND_TABLES_LISTTREE_H_
 
 #include <algorithm>
+#include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <list>
-#include <type_traits>
 
 #include "backend/Assert.h"
 
@@ -122,6 +123,12 @@ class ListTree {
     return it;
   }
 
+  // Gives the condition, and reports it when it is false. The line is part of the report's text.
+  static bool holds(bool condition, const wchar_t* message, unsigned line) {
+    if (!condition) omAssertFailed(message, L"backend/tables/ListTree", line);
+    return condition;
+  }
+
   Records _list;
 };
 
@@ -134,9 +141,9 @@ class ListTree<T>::Handle {
       : _tree(&tree), _level(record == tree.List().end() ? 0 : record->_level), _iter(record) {}
 
   // A Node serves wherever a ConstNode is asked for.
-  template <class OtherTree, class OtherIterator>
-    requires std::is_convertible_v<OtherIterator, Iterator>
-  Handle(const Handle<OtherTree, OtherIterator>& other)  // NOLINT(google-explicit-constructor)
+  template <class OtherTree, std::convertible_to<Iterator> OtherIterator>
+  // NOLINTNEXTLINE(google-explicit-constructor)
+  Handle(const Handle<OtherTree, OtherIterator>& other)
       : Handle(other.Owner(), other.Iter(), other.Level()) {}
 
   bool IsEnd() const { return _iter == _tree->List().end(); }
@@ -155,9 +162,7 @@ class ListTree<T>::Handle {
 
   // The record behind this one, whatever its level; the end node if there is none. Walk children
   // from here by NextSibling until the handle equals ChildrenEnd().
-  Handle FirstChild() const {
-    return IsEnd() ? *this : Handle(*_tree, std::next(_iter));
-  }
+  Handle FirstChild() const { return IsEnd() ? *this : Handle(*_tree, std::next(_iter)); }
 
   // Behind the subtree. The handle keeps this one's level, also on the end.
   Handle NextSibling() const { return Handle(*_tree, behindSubtree(), _level); }
@@ -187,7 +192,9 @@ class ListTree<T>::Handle {
   Handle(Tree& tree, Iterator record, std::int32_t level)
       : _tree(&tree), _level(level), _iter(record) {}
 
-  Iterator behindSubtree() const { return SearchForward(_iter, Iterator(_tree->List().end()), _level); }
+  Iterator behindSubtree() const {
+    return SearchForward(_iter, Iterator(_tree->List().end()), _level);
+  }
 
   Tree* _tree;
   std::int32_t _level;
@@ -201,7 +208,8 @@ ListTree<T>& ListTree<T>::operator=(const ListTree& other) {
   Records more;
   const std::size_t here = _list.size();
   if (other._list.size() > here) {
-    more.assign(std::next(other._list.begin(), static_cast<std::ptrdiff_t>(here)), other._list.end());
+    more.assign(std::next(other._list.begin(), static_cast<std::ptrdiff_t>(here)),
+                other._list.end());
   }
   auto from = other._list.begin();
   auto to = _list.begin();
@@ -231,13 +239,12 @@ void ListTree<T>::Prune(const Node& n) {
 
 template <class T>
 void ListTree<T>::Move(const Node& target, const Node& begin, const Node& end) {
-  constexpr const wchar_t* kSource = L"backend/tables/ListTree";
-  if (target._tree != this) return omAssertFailed(L"target._tree == this", kSource, 503);
-  if (begin._tree != end._tree) return omAssertFailed(L"begin._tree == end._tree", kSource, 504);
-  if (target._tree == begin._tree) return omAssertFailed(L"target._tree != begin._tree", kSource, 505);
-  if (begin.Level() != target.Level()) {
-    return omAssertFailed(L"begin.Level() == target.Level()", kSource, 506);
-  }
+  const bool movable =
+      holds(target._tree == this, L"target._tree == this", 503) &&
+      holds(begin._tree == end._tree, L"begin._tree == end._tree", 504) &&
+      holds(target._tree != begin._tree, L"target._tree != begin._tree", 505) &&
+      holds(begin.Level() == target.Level(), L"begin.Level() == target.Level()", 506);
+  if (!movable) return;
   Records copies(begin._iter, end._iter);
   _list.splice(target._iter, copies);
   begin._tree->_list.erase(begin._iter, end._iter);

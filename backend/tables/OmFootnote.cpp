@@ -41,9 +41,7 @@ OmFootnote::~OmFootnote() {
   delete marker_;
 }
 
-void OmFootnote::Text(const OmCellText& text) {
-  delete std::exchange(text_, text.Clone(region_));
-}
+void OmFootnote::Text(const OmCellText& text) { delete std::exchange(text_, text.Clone(region_)); }
 
 void OmFootnote::Marker(const OmCellText* marker) {
   delete std::exchange(marker_, cloneOf(marker, region_).release());

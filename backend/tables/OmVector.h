@@ -107,9 +107,7 @@ class OmVector {
     Held(const Held&) = delete;
     Held& operator=(const Held&) = delete;
 
-    void moveTo(T* place) {
-      moveBytes(place, std::exchange(element_, nullptr), 1);
-    }
+    void moveTo(T* place) { moveBytes(place, std::exchange(element_, nullptr), 1); }
 
    private:
     alignas(T) std::byte room_[sizeof(T)];

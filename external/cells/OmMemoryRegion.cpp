@@ -7,8 +7,10 @@
 #include <limits>
 #include <new>
 
+#include "external/cells/internal/ChunkReserve.h"
 #include "external/cells/internal/Poison.h"
 
+using om::internal::chunkReserve;
 using om::internal::poison;
 using om::internal::unpoison;
 
@@ -42,7 +44,7 @@ constexpr std::size_t kHeadBytes = 8;
 constexpr std::size_t kChunkHeadBytes = 40;
 constexpr std::size_t kLargestCarved = 32 * 1024;
 constexpr std::size_t kFirstChunkBytes = 4 * 1024;
-constexpr std::size_t kLargestChunkBytes = 1024 * 1024;
+constexpr std::size_t kLargestChunkBytes = om::internal::ChunkReserve::kChunkBytes;
 
 static_assert(alignof(std::max_align_t) <= kUnit);
 static_assert((kChunkHeadBytes + kHeadBytes) % kUnit == 0);
@@ -120,6 +122,10 @@ std::size_t OmMemoryRegion::BytesInUse() const {
 std::size_t OmMemoryRegion::BlocksInUse() const {
   const LockWhen lock(mutex_, shared_);
   return blocksInUse_;
+}
+
+std::size_t OmMemoryRegion::SetReserveLimit(std::size_t bytes) noexcept {
+  return chunkReserve.setLimit(bytes);
 }
 
 OmMemoryRegion::AllocationProbe OmMemoryRegion::SetAllocationProbe(AllocationProbe probe) noexcept {
@@ -243,8 +249,10 @@ OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size) {
 }
 
 OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
-  void* const place = std::malloc(bytes);
+  void* place = bytes == kLargestChunkBytes ? chunkReserve.take() : nullptr;
+  if (place == nullptr) place = std::malloc(bytes);
   if (place == nullptr) throw std::bad_alloc();
+  unpoison(place, kChunkHeadBytes);
   auto* const chunk = ::new (place) Chunk{chunks_, nullptr, this, bytes, 0};
   if (chunks_ != nullptr) chunks_->previous = chunk;
   chunks_ = chunk;
@@ -255,8 +263,9 @@ OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
 void OmMemoryRegion::dropChunk(Chunk* chunk) noexcept {
   (chunk->previous != nullptr ? chunk->previous->next : chunks_) = chunk->next;
   if (chunk->next != nullptr) chunk->next->previous = chunk->previous;
+  const bool reserved = chunk->bytes == kLargestChunkBytes;
   unpoison(chunk, chunk->bytes);
-  std::free(chunk);
+  reserved ? chunkReserve.giveBack(chunk) : std::free(chunk);
 }
 
 OmMemoryRegion::Chunk* OmMemoryRegion::chunkOf(Head* head) noexcept {

@@ -11,8 +11,8 @@
 //   Release or the region ends. A region never moves, so it can be a member or a base class.
 // Lifetime: the default heap lives as long as the process.
 // Threads: a region made with `shared` true, as the default heap is, may be used from several
-//   threads at once. Any other region, with all blocks that came from it, belongs to one thread at a
-//   time.
+//   threads at once. Any other region, with all blocks that came from it, belongs to one thread at
+//   a time.
 // Cost: a block has 8 bytes of head and its size is rounded so that both are a multiple of 16.
 //   Blocks above 32 KiB are chunks of their own, cost 48 bytes, and go back to the system when they
 //   are released. Allocate and Release take constant time.
@@ -62,6 +62,10 @@ class OM_CELLS_API OmMemoryRegion {
   // counted in.
   std::size_t BytesInUse() const;
   std::size_t BlocksInUse() const;
+
+  // Chunks of regions that ended are kept for later regions, 256 MiB of them at most unless a limit
+  // is set here; 0 keeps none. Gives the former limit in bytes. From any thread.
+  static std::size_t SetReserveLimit(std::size_t bytes) noexcept;
 
   // Installs a probe, or none with null, and gives the former one back.
   static AllocationProbe SetAllocationProbe(AllocationProbe probe) noexcept;

@@ -60,7 +60,7 @@ class OM_CELLS_API OmStringCell : public OmCellText {
 
   std::size_t size_ : 62;
   std::size_t utf8_ : 1;
-  std::size_t elsewhere_ : 1;                  // room_ holds the address of an owned block
+  std::size_t elsewhere_ : 1;                // room_ holds the address of an owned block
   alignas(char*) char room_[kOwnRoom] = {};  // the first characters; more follow the cell
 
  public:

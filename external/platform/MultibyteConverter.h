@@ -1,7 +1,8 @@
 // MultibyteConverter: turns UTF-8 into the bytes of one code page, or says that it cannot be done;
 // it never puts another character in the place of one that the code page lacks.
 //
-// Ownership: create gives the caller an object to delete. Threads: one at a time for each converter.
+// Ownership: create gives the caller an object to delete. Threads: one at a time for each
+// converter.
 
 #ifndef OM_EXTERNAL_PLATFORM_MULTIBYTECONVERTER_H_
 #define OM_EXTERNAL_PLATFORM_MULTIBYTECONVERTER_H_

@@ -28,9 +28,10 @@ void countAndMaybeFail() {
 void* allocate(std::size_t size, std::size_t alignment) {
   countAndMaybeFail();
   const std::size_t bytes = size == 0 ? 1 : size;
-  void* const block = alignment <= alignof(std::max_align_t)
-                          ? std::malloc(bytes)
-                          : std::aligned_alloc(alignment, (bytes + alignment - 1) / alignment * alignment);
+  void* const block =
+      alignment <= alignof(std::max_align_t)
+          ? std::malloc(bytes)
+          : std::aligned_alloc(alignment, (bytes + alignment - 1) / alignment * alignment);
   if (block == nullptr) throw std::bad_alloc();
   ++live;
   ++total;

@@ -23,8 +23,8 @@ class LeakCheck {
   long countedParts_;
 };
 
-// Leaves blocks of operator new out of the findings until the end of the test, for a test that makes
-// the test framework keep some: by a death test, or by expecting a failure.
+// Leaves blocks of operator new out of the findings until the end of the test, for a test that
+// makes the test framework keep some: by a death test, or by expecting a failure.
 void ignoreNewBlocks(bool ignore = true);
 
 }  // namespace om::test

@@ -1,0 +1,47 @@
+// Chunks that regions gave up and that later regions take over. Fresh memory costs a page fault for
+// every page at the first touch, and giving it back costs again; a chunk from the reserve costs
+// neither.
+//
+// Threads: any number at once. Only chunks of the one largest size pass through here, so the lock
+// is taken once for many blocks.
+
+#ifndef OM_EXTERNAL_CELLS_INTERNAL_CHUNKRESERVE_H_
+#define OM_EXTERNAL_CELLS_INTERNAL_CHUNKRESERVE_H_
+
+#include <cstddef>
+#include <mutex>
+
+namespace om::internal {
+
+class ChunkReserve {
+ public:
+  static constexpr std::size_t kChunkBytes = std::size_t{1024} * 1024;
+  static constexpr std::size_t kUsualLimit = 256 * kChunkBytes;
+
+  // A chunk of kChunkBytes that is the caller's to give back, or null when there is none.
+  void* take() noexcept;
+
+  // Takes over a chunk of kChunkBytes from malloc; beyond the limit it goes back to the system.
+  void giveBack(void* chunk) noexcept;
+
+  // Sets how many bytes to keep at most, gives what is beyond back to the system, and answers the
+  // former limit.
+  std::size_t setLimit(std::size_t bytes) noexcept;
+
+ private:
+  struct Kept {
+    Kept* next;
+  };
+
+  std::mutex mutex_;
+  Kept* kept_ = nullptr;
+  std::size_t bytes_ = 0;
+  std::size_t limit_ = kUsualLimit;
+};
+
+// The one of the process. It is never destroyed, and needs not be: regions may end at any time.
+extern ChunkReserve chunkReserve;
+
+}  // namespace om::internal
+
+#endif  // OM_EXTERNAL_CELLS_INTERNAL_CHUNKRESERVE_H_
