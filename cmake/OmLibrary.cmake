@@ -4,7 +4,8 @@
 set(OM_HEADERS
   backend/Assert.h backend/Export.h backend/LibraryEntry.h backend/OMSException.h
   backend/tables/ListTree.h backend/tables/OmFootnote.h backend/tables/OmVector.h
-  backend/tables/PuppetVector.h
+  backend/tables/PuppetVector.h backend/tables/om/VectorTree.h
+  dimensions/OmDimension.h dimensions/OmDimensionNode.h
   output/OmHeading.h output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h
   output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h)
 list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
@@ -12,6 +13,7 @@ list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
 add_library(om-objects OBJECT
   backend/Assert.cpp backend/LibraryEntry.cpp backend/OMSException.cpp
   backend/tables/OmFootnote.cpp
+  dimensions/OmDimension.cpp dimensions/OmDimensionEdit.cpp dimensions/OmDimensionNode.cpp
   output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
   output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp)
 om_library_properties(om-objects)

@@ -39,6 +39,30 @@ class OmVector {
   using iterator = T*;
   using const_iterator = const T*;
 
+  // An element that is not in a vector yet. Made in advance, it goes in without a copy, and so
+  // without a failure where there is room.
+  class Detached {
+   public:
+    template <class... Arguments>
+    explicit Detached(std::in_place_t, Arguments&&... arguments)
+        : element_(::new (static_cast<void*>(room_)) T(std::forward<Arguments>(arguments)...)) {}
+    ~Detached() {
+      if (element_ != nullptr) element_->~T();
+    }
+    Detached(const Detached&) = delete;
+    Detached& operator=(const Detached&) = delete;
+
+    T& operator*() { return *element_; }
+
+   private:
+    friend class OmVector;
+
+    void moveTo(T* place) { moveBytes(place, std::exchange(element_, nullptr), 1); }
+
+    alignas(T) std::byte room_[sizeof(T)];
+    T* element_;
+  };
+
   // An empty vector on `region` (null: the default heap) with room for exactly `capacity` elements.
   explicit OmVector(OmMemoryRegion* region = nullptr, std::size_t capacity = 0)
       : region_(OmMemoryRegion::OrDefaultHeap(region)) {
@@ -76,6 +100,9 @@ class OmVector {
     if (count > capacity()) relocate(count);
   }
 
+  // Room for `count` more elements, by the steps in which adding them one by one would grow.
+  void makeRoom(std::size_t count = 1);
+
   // Adds an element at the end. The arguments may refer to elements of this vector.
   void push_back(const T& value) { emplace_back(value); }
   template <class... Arguments>
@@ -83,7 +110,12 @@ class OmVector {
 
   // Adds a copy of `value`, which may be an element of this vector, in front of the position.
   // REQUIRES: position <= size.
-  T& insert(std::size_t position, const T& value);
+  T& insert(std::size_t position, const T& value) {
+    return insert(position, Detached(std::in_place, value));
+  }
+  // Takes an element over. Its bytes move: what refers to its address has to follow.
+  // REQUIRES: position <= size; the element was not taken over before.
+  T& insert(std::size_t position, Detached&& element);
 
   // Destroys the element at the position and closes the gap. REQUIRES: position < size.
   void erase(std::size_t position);
@@ -91,39 +123,18 @@ class OmVector {
   // Destroys all elements and keeps the storage.
   void clear();
 
+  // Gives the storage back and is then empty, without destroying the elements.
+  // REQUIRES: they have been destroyed, one way or another.
+  void abandon();
+
   // Null, or the first invariant that does not hold.
   const char* checkInvariants() const;
 
  private:
-  // A new element on its way into the vector.
-  class Held {
-   public:
-    template <class... Arguments>
-    explicit Held(Arguments&&... arguments)
-        : element_(::new (static_cast<void*>(room_)) T(std::forward<Arguments>(arguments)...)) {}
-    ~Held() {
-      if (element_ != nullptr) element_->~T();
-    }
-    Held(const Held&) = delete;
-    Held& operator=(const Held&) = delete;
-
-    void moveTo(T* place) { moveBytes(place, std::exchange(element_, nullptr), 1); }
-
-   private:
-    alignas(T) std::byte room_[sizeof(T)];
-    T* element_;
-  };
-
   static void moveBytes(T* to, const T* from, std::size_t count) {
     if (count != 0) {
       std::memmove(static_cast<void*>(to), static_cast<const void*>(from), count * sizeof(T));
     }
-  }
-
-  std::size_t grownCapacity() const {
-    std::size_t grown = 4;
-    while (grown <= size()) grown *= 2;
-    return grown;
   }
 
   void relocate(std::size_t capacity);
@@ -147,17 +158,29 @@ OmVector<T>& OmVector<T>::operator=(const OmVector& other) {
 template <class T>
 OmVector<T>::~OmVector() {
   clear();
-  OmMemoryRegion::Release(begin_);
-  begin_ = end_ = capacityEnd_ = nullptr;
+  abandon();
+}
+
+template <class T>
+void OmVector<T>::makeRoom(std::size_t count) {
+  std::size_t room = capacity();
+  if (room - size() >= count) return;
+  // Each step starts from a full vector.
+  while (room - size() < count) {
+    std::size_t grown = 4;
+    while (grown <= room) grown *= 2;
+    room = grown;
+  }
+  relocate(room);
 }
 
 template <class T>
 template <class... Arguments>
 T& OmVector<T>::emplace_back(Arguments&&... arguments) {
   if (end_ == capacityEnd_) {
-    // Made first: the arguments may stand in the storage that is about to go.
-    Held element(std::forward<Arguments>(arguments)...);
-    relocate(grownCapacity());
+    // Made before the vector grows: the arguments may stand in the storage that is about to go.
+    Detached element(std::in_place, std::forward<Arguments>(arguments)...);
+    makeRoom();
     element.moveTo(end_);
   } else {
     ::new (static_cast<void*>(end_)) T(std::forward<Arguments>(arguments)...);
@@ -166,9 +189,8 @@ T& OmVector<T>::emplace_back(Arguments&&... arguments) {
 }
 
 template <class T>
-T& OmVector<T>::insert(std::size_t position, const T& value) {
-  Held element(value);
-  if (end_ == capacityEnd_) relocate(grownCapacity());
+T& OmVector<T>::insert(std::size_t position, Detached&& element) {
+  makeRoom();
   T* const place = begin_ + position;
   moveBytes(place + 1, place, size() - position);
   element.moveTo(place);
@@ -188,6 +210,12 @@ template <class T>
 void OmVector<T>::clear() {
   for (T* element = begin_; element != end_; ++element) element->~T();
   end_ = begin_;
+}
+
+template <class T>
+void OmVector<T>::abandon() {
+  OmMemoryRegion::Release(begin_);
+  begin_ = end_ = capacityEnd_ = nullptr;
 }
 
 template <class T>
