@@ -37,7 +37,7 @@ extern "C" int __stdcall DllMain(void* module, unsigned long reason, void* reser
 #else
 
 // Each module has one of its own; its address serves as the module's handle.
-extern "C" void* __dso_handle;
+extern "C" void* __dso_handle;  // NOLINT(bugprone-reserved-identifier): the loader's own name
 
 namespace {
 

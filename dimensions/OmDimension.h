@@ -13,8 +13,7 @@
 //   when it enters the tree; the root's text alone lives where the node lived that it was made
 //   from. Dimensions are made by OmPivotTable::AddDimension and owned by their table.
 // Handles: a structural change invalidates the handles to the children of the nodes that it
-// changes,
-//   and to what is below them; the handle that an operation gives is valid afterwards.
+//   changes and to what is below them; the handle that an operation gives is valid afterwards.
 // Depth: no operation calls itself, so a tree may be as deep as memory allows.
 // Threads: a dimension belongs to one thread at a time.
 // Errors: std::bad_alloc, and what cloning a text throws; the tree is then as before.

@@ -11,10 +11,9 @@
 // Ownership: a part owns a clone of its label, on the default heap. Parts are made with `new` and
 //   handed to an OmOutputTree, which deletes them. A part does not know its place in the tree.
 // Copies: copying a part is deliberately shallow, also by assignment: both then share the label
-// (and
-//   what the kind says that it shares), and each of them would delete it. Whoever copies a part
-//   sees to it that only one of the two is ever destroyed. What a part shared or owned before it
-//   was assigned to is not deleted.
+//   (and what the kind says that it shares), and each of them would delete it. Whoever copies a
+//   part sees to it that only one of the two is ever destroyed. What a part shared or owned before
+//   it was assigned to is not deleted.
 // Threads: a part belongs to one thread at a time.
 
 #ifndef OM_OUTPUT_OMOUTPUTPART_H_

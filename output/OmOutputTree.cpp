@@ -17,7 +17,7 @@ using Records = OmOutputTree::Records;
 // A list of one record, which splice can move into a tree without failing.
 Records recordOf(std::unique_ptr<OmOutputPart>&& part, int level) {
   Records record{{part.get(), level}};
-  part.release();
+  static_cast<void>(part.release());
   return record;
 }
 
@@ -38,7 +38,7 @@ OmOutputTree::~OmOutputTree() {
 OmOutputTree::Node OmOutputTree::Append(const Node& parent, std::unique_ptr<OmOutputPart>&& part) {
   if (parent.IsEnd()) throw OMSException("OmOutputTree::Append() -- parent is the end");
   const Node appended = parent.AppendChild(part.get());
-  part.release();
+  static_cast<void>(part.release());
   return appended;
 }
 
@@ -53,7 +53,7 @@ OmOutputTree::Node OmOutputTree::AppendLast(std::unique_ptr<OmOutputPart>&& part
     }
   }
   List().push_back({part.get(), level});
-  part.release();
+  static_cast<void>(part.release());
   return Node(*this, std::prev(List().end()));
 }
 

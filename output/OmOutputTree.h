@@ -6,10 +6,9 @@
 //   the operations of ListTree is not deleted: by a qualified call of ListTree's Erase or Prune it
 //   goes to the caller, by Move to the tree that receives it.
 // Copies: deliberately shallow. A copied or assigned tree shares its parts with its source, and
-// only
-//   one of the two may be destroyed or edited through the operations that delete; the other one is
-//   let go by `List().clear()`. The parts that a tree held before it was assigned to are not
-//   deleted.
+//   only one of the two may be destroyed or edited through the operations that delete; the other
+//   one is let go by `List().clear()`. The parts that a tree held before it was assigned to are
+//   not deleted.
 // Lifetime, handles, cost, threads: as for ListTree.
 
 #ifndef OM_OUTPUT_OMOUTPUTTREE_H_

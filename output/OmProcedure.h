@@ -22,37 +22,47 @@ class OM_EXPORT OmProcedure : public OmHeading {
 
   void Accept(Visitor& visitor) override;
 
-  const std::string& Command() const { return command_; }
-  void SetCommand(const std::string& command) { command_ = command; }
-  const std::string& LanguageCode() const { return languageCode_; }
-  const std::string& LocaleCodePage() const { return localeCodePage_; }
-  const std::string& LocaleName() const { return localeName_; }
-  const std::string& TransCommand() const { return transCommand_; }
-  void SetTransCommand(const std::string& command) { transCommand_ = command; }
+  const std::string& Command() const { return texts_.command; }
+  void SetCommand(const std::string& command) { texts_.command = command; }
+  const std::string& LanguageCode() const { return texts_.languageCode; }
+  const std::string& LocaleCodePage() const { return texts_.localeCodePage; }
+  const std::string& LocaleName() const { return texts_.localeName; }
+  const std::string& TransCommand() const { return texts_.transCommand; }
+  void SetTransCommand(const std::string& command) { texts_.transCommand = command; }
 
-  OmCellText::ModeType OutlineVarDisplay() const { return outlineVarDisplay_; }
-  void OutlineVarDisplay(OmCellText::ModeType mode) { outlineVarDisplay_ = mode; }
-  OmCellText::ModeType OutlineValueDisplay() const { return outlineValueDisplay_; }
-  void OutlineValueDisplay(OmCellText::ModeType mode) { outlineValueDisplay_ = mode; }
-  OmCellText::ModeType TableVarDisplay() const { return tableVarDisplay_; }
-  void TableVarDisplay(OmCellText::ModeType mode) { tableVarDisplay_ = mode; }
-  OmCellText::ModeType TableValueDisplay() const { return tableValueDisplay_; }
-  void TableValueDisplay(OmCellText::ModeType mode) { tableValueDisplay_ = mode; }
+  OmCellText::ModeType OutlineVarDisplay() const { return displays_.outlineVar; }
+  void OutlineVarDisplay(OmCellText::ModeType mode) { displays_.outlineVar = mode; }
+  OmCellText::ModeType OutlineValueDisplay() const { return displays_.outlineValue; }
+  void OutlineValueDisplay(OmCellText::ModeType mode) { displays_.outlineValue = mode; }
+  OmCellText::ModeType TableVarDisplay() const { return displays_.tableVar; }
+  void TableVarDisplay(OmCellText::ModeType mode) { displays_.tableVar = mode; }
+  OmCellText::ModeType TableValueDisplay() const { return displays_.tableValue; }
+  void TableValueDisplay(OmCellText::ModeType mode) { displays_.tableValue = mode; }
 
   // Makes `text`, which may be the present label, both the label and, by its string form, the
   // command. Throws what Clone throws; both are then as before.
   void setOutlineText(const OmCellText& text);
 
  private:
-  std::string command_;
-  std::string languageCode_;
-  std::string localeCodePage_;
-  std::string localeName_;
-  std::string transCommand_;
-  OmCellText::ModeType outlineVarDisplay_ = OmCellText::LABELS;
-  OmCellText::ModeType outlineValueDisplay_ = OmCellText::LABELS;
-  OmCellText::ModeType tableVarDisplay_ = OmCellText::LABELS;
-  OmCellText::ModeType tableValueDisplay_ = OmCellText::LABELS;
+  struct Texts {
+    std::string command;
+    std::string languageCode;
+    std::string localeCodePage;
+    std::string localeName;
+    std::string transCommand;
+  };
+
+  struct Displays {
+    OmCellText::ModeType outlineVar = OmCellText::LABELS;
+    OmCellText::ModeType outlineValue = OmCellText::LABELS;
+    OmCellText::ModeType tableVar = OmCellText::LABELS;
+    OmCellText::ModeType tableValue = OmCellText::LABELS;
+  };
+
+  OmProcedure(const OmProcedure& other, Texts texts) noexcept;
+
+  Texts texts_;
+  Displays displays_;
 };
 
 #endif  // OM_OUTPUT_OMPROCEDURE_H_

@@ -33,6 +33,9 @@ class OM_EXPORT OmTextBlock : public OmOutputPart {
   const std::string& LocaleCodePage() const { return localeCodePage_; }
 
  private:
+  OmTextBlock(const OmTextBlock& other, std::list<std::string> textList,
+              std::string localeCodePage) noexcept;
+
   std::list<std::string> textList_;
   bool isLog_;
   std::string localeCodePage_;

@@ -30,6 +30,7 @@
 #include <cstdint>
 #include <iterator>
 #include <list>
+#include <utility>
 
 #include "backend/Assert.h"
 
@@ -62,7 +63,8 @@ class ListTree {
   explicit ListTree(T& root) : _list{{root, 0}} {}
   explicit ListTree(const T& root) : _list{{root, 0}} {}
 
-  // Copies the records; items that are pointers are then shared.
+  // Copies the records; items that are pointers are then shared. Assigning writes into the records
+  // that are there, so that handles on them stay valid.
   ListTree(const ListTree&) = default;
   ListTree& operator=(const ListTree& other);
   ~ListTree() = default;
@@ -204,18 +206,12 @@ class ListTree<T>::Handle {
 template <class T>
 ListTree<T>& ListTree<T>::operator=(const ListTree& other) {
   if (this == &other) return *this;
-  // Records that this tree lacks are made first: nothing else can fail.
-  Records more;
-  const std::size_t here = _list.size();
-  if (other._list.size() > here) {
-    more.assign(std::next(other._list.begin(), static_cast<std::ptrdiff_t>(here)),
-                other._list.end());
-  }
-  auto from = other._list.begin();
+  Records copies = other._list;  // Nothing behind this can fail.
+  auto from = copies.begin();
   auto to = _list.begin();
-  for (; to != _list.end() && from != other._list.end(); ++to, ++from) *to = *from;
+  for (; to != _list.end() && from != copies.end(); ++to, ++from) std::swap(*to, *from);
   _list.erase(to, _list.end());
-  _list.splice(_list.end(), more);
+  _list.splice(_list.end(), copies, from, copies.end());
   return *this;
 }
 

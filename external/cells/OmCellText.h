@@ -78,8 +78,8 @@ class OM_CELLS_API OmCellText {
   virtual std::size_t Size() const;
 
   // Negative, 0 or positive as this text sorts before, with or after the other. Numbers stand
-  // first, by value; then dates, by time; then all other texts, by the bytes of their string forms.
-  // Texts of different kinds can compare equal.
+  // first, by value, behind those whose value is no number; then dates, by time; then all other
+  // texts, by the bytes of their string forms. Texts of different kinds can compare equal.
   virtual short Compare(const OmCellText& other) const;
 
   // The kind's code, one of KindType. A class that answers a code is, or derives from, that kind.

@@ -11,7 +11,10 @@ OmDateCell* OmDateCell::Clone(OmMemoryRegion* region) const {
 
 OmDateCell::operator std::string() const {
   std::array<char, 96> text;  // six 32-bit numbers, five separators
-  std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", when_.year, when_.month, when_.day);
+  // Years beyond four digits have a sign.
+  const char* const format =
+      when_.year < 0 || when_.year > 9999 ? "%+05d-%02u-%02u" : "%04d-%02u-%02u";
+  std::snprintf(text.data(), text.size(), format, when_.year, when_.month, when_.day);
   std::string result(text.data());
   if (showsTime_) {
     std::snprintf(text.data(), text.size(), " %02u:%02u:%02u", when_.hour, when_.minute,

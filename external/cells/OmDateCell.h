@@ -1,5 +1,6 @@
 // OmDateCell: a date of the Gregorian calendar, with or without a time of day. The string form is
-// that of ISO 8601: "2026-11-21" or "2026-11-21 13:05:00".
+// that of ISO 8601: "2026-11-21" or "2026-11-21 13:05:00"; a year before 0 or after 9999 has a sign
+// and four digits at least.
 
 #ifndef OM_EXTERNAL_CELLS_OMDATECELL_H_
 #define OM_EXTERNAL_CELLS_OMDATECELL_H_

@@ -42,8 +42,8 @@ namespace {
 constexpr std::size_t kUnit = 16;
 constexpr std::size_t kHeadBytes = 8;
 constexpr std::size_t kChunkHeadBytes = 40;
-constexpr std::size_t kLargestCarved = 32 * 1024;
-constexpr std::size_t kFirstChunkBytes = 4 * 1024;
+constexpr std::size_t kLargestCarved = std::size_t{32} * 1024;
+constexpr std::size_t kFirstChunkBytes = std::size_t{4} * 1024;
 constexpr std::size_t kLargestChunkBytes = om::internal::ChunkReserve::kChunkBytes;
 
 static_assert(alignof(std::max_align_t) <= kUnit);
@@ -83,7 +83,11 @@ OmMemoryRegion::OmMemoryRegion(bool shared) : shared_(shared), nextChunkBytes_(k
 }
 
 OmMemoryRegion::~OmMemoryRegion() {
-  while (chunks_ != nullptr) dropChunk(chunks_);
+  for (Chunk* chunk = chunks_; chunk != nullptr;) {
+    Chunk* const next = chunk->next;
+    freeChunk(chunk);
+    chunk = next;
+  }
 }
 
 void* OmMemoryRegion::Allocate(std::size_t size) {
@@ -133,7 +137,7 @@ OmMemoryRegion::AllocationProbe OmMemoryRegion::SetAllocationProbe(AllocationPro
 }
 
 void* OmMemoryRegion::take(std::size_t size) {
-  Head* const head = size <= kLargestCarved - kHeadBytes ? carve(unitsFor(size)) : takeChunk(size);
+  Head* const head = size <= kLargestCarved ? carve(unitsFor(size)) : takeChunk(size);
   bytesInUse_ += bytesOf(head);
   ++blocksInUse_;
   unpoison(head->block(), size);
@@ -263,6 +267,10 @@ OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
 void OmMemoryRegion::dropChunk(Chunk* chunk) noexcept {
   (chunk->previous != nullptr ? chunk->previous->next : chunks_) = chunk->next;
   if (chunk->next != nullptr) chunk->next->previous = chunk->previous;
+  freeChunk(chunk);
+}
+
+void OmMemoryRegion::freeChunk(Chunk* chunk) noexcept {
   const bool reserved = chunk->bytes == kLargestChunkBytes;
   unpoison(chunk, chunk->bytes);
   reserved ? chunkReserve.giveBack(chunk) : std::free(chunk);

@@ -89,6 +89,7 @@ class OM_CELLS_API OmMemoryRegion {
   Head* takeChunk(std::size_t size);
   Chunk* newChunk(std::size_t bytes);
   void dropChunk(Chunk* chunk) noexcept;
+  static void freeChunk(Chunk* chunk) noexcept;
 
   static Head* pop(FreeBlock*& list) noexcept;
   static Head* lay(Chunk* chunk, char* place, std::uint32_t units) noexcept;

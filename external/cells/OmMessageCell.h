@@ -15,7 +15,8 @@
 
 class OM_CELLS_API OmMessageCell : public OmCellText {
  public:
-  // `region` supplies the clones; null means the default heap.
+  // `region` supplies the clones; null means the default heap. (A pattern that is a message itself
+  // is passed as a `const OmCellText&`.)
   explicit OmMessageCell(const OmCellText& pattern, OmMemoryRegion* region = nullptr);
   ~OmMessageCell() override;
 

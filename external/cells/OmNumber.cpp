@@ -6,6 +6,23 @@
 #include <cmath>
 #include <limits>
 
+namespace {
+
+// Gives the end of what it wrote.
+char* write(char* begin, char* limit, double magnitude, int decimals) {
+  if (decimals >= 0) {
+    return std::to_chars(begin, limit, magnitude, std::chars_format::fixed,
+                         std::min(decimals, OmNumber::kMaxDecimals))
+        .ptr;
+  }
+  const bool plain = magnitude == 0 || (magnitude >= 1e-6 && magnitude < 1e21);
+  return std::to_chars(begin, limit, magnitude,
+                       plain ? std::chars_format::fixed : std::chars_format::scientific)
+      .ptr;
+}
+
+}  // namespace
+
 OmNumber::~OmNumber() = default;
 
 OmNumber* OmNumber::Clone(OmMemoryRegion* region) const { return new (region) OmNumber(*this); }
@@ -19,16 +36,10 @@ OmNumber::operator std::string() const {
   char* const begin = digits.data();
   char* const limit = begin + digits.size();
   const double magnitude = std::fabs(value_);
-  const bool shortest = format_.decimals < 0;
-  const std::to_chars_result result =
-      shortest ? std::to_chars(begin, limit, magnitude)
-               : std::to_chars(begin, limit, magnitude, std::chars_format::fixed,
-                               std::min(format_.decimals, kMaxDecimals));
-  char* const end = result.ptr;
+  char* const end = write(begin, limit, magnitude, format_.decimals);
 
   const bool zero = std::all_of(begin, end, [](char c) { return c == '0' || c == '.'; });
   std::string text = value_ < 0 && !zero ? "-" : "";
-  // The shortest form of a large or small value has an exponent; its one digit is not grouped.
   const auto whole = std::find_if(begin, end, [](char c) { return c < '0' || c > '9'; }) - begin;
   for (auto i = 0 * whole; i < whole; ++i) {
     if (format_.grouping && i > 0 && (whole - i) % 3 == 0) text += ',';

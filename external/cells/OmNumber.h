@@ -15,7 +15,7 @@ class OM_CELLS_API OmNumber : public OmCellText {
  public:
   struct Format {
     // Digits behind the decimal point, at most kMaxDecimals; negative: the fewest digits from which
-    // the value can be read back.
+    // the value can be read back, with an exponent below 1e-6 and from 1e21 on, as in "1e-07".
     int decimals = -1;
     bool percent = false;   // a "%" behind it; the value is in per cent already
     bool grouping = false;  // a "," between thousands

@@ -1,6 +1,5 @@
 #include "external/cells/OmStringCell.h"
 
-#include <cstring>
 #include <new>
 
 #include "external/cells/OmMemoryRegion.h"
@@ -18,12 +17,12 @@ OmStringCell::OmStringCell(const OmStringCell& other)
 
 OmStringCell::OmStringCell(Following, std::string_view text, bool utf8) noexcept
     : size_(text.size() & kSizeBits), utf8_(utf8), elsewhere_(0) {
-  std::memcpy(static_cast<void*>(room_), text.data(), text.size());
+  text.copy(room_, text.size());
 }
 
 OmStringCell::OmStringCell(Following, const OmStringCell& other)
     : OmCellText(other), size_(other.size_), utf8_(other.utf8_), elsewhere_(0) {
-  std::memcpy(static_cast<void*>(room_), other.characters(), other.size_);
+  other.View().copy(room_, other.size_);
 }
 
 OmStringCell::~OmStringCell() {
@@ -36,7 +35,7 @@ void OmStringCell::keep(std::string_view text, OmMemoryRegion* region) {
     place = static_cast<char*>(OmMemoryRegion::OrDefaultHeap(region)->Allocate(text.size()));
     ::new (static_cast<void*>(room_)) char*(place);
   }
-  std::memcpy(static_cast<void*>(place), text.data(), text.size());
+  text.copy(place, text.size());
 }
 
 void* OmStringCell::operator new(std::size_t size, OmMemoryRegion* region, std::size_t characters) {

@@ -4,7 +4,7 @@ set -euo pipefail
 check=$1
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
-mkdir -p "$root"/{external,output/internal,pivot}
+mkdir -p "$root"/{external,output/internal,pivot,render}
 
 # verdict FILE INCLUDE: what the check says of one file with one include.
 verdict() {
@@ -26,4 +26,6 @@ expect output/A.cpp '<pivot/OmPivotTable.h>' 'runs against the layers'
 expect external/A.cpp '"backend/Export.h"' 'runs against the layers'
 expect output/A.cpp '"OmHeading.h"' 'not a path from the root of the project'
 expect output/A.cpp '"output/internal/B.h"' sound
-expect pivot/A.cpp '"output/internal/B.h"' 'internal to output/'
+expect pivot/A.cpp '"output/internal/B.h"' sound
+expect render/A.cpp '"output/internal/B.h"' 'internal to output/'
+expect output/A.cpp '"external/cells/internal/B.h"' 'internal to external/cells/'

@@ -10,9 +10,8 @@
 //
 // Invariants:
 //   1. A record's parent is the record whose children hold it; the root's is null. Records move
-//   when
-//      a vector of children grows or shifts, and whoever makes them move restores the links with
-//      Reparent. (OmDimension::Delete leaves that to its caller.)
+//      when a vector of children grows or shifts, and whoever makes them move restores the links
+//      with Reparent. (OmDimension::Delete leaves that to its caller.)
 //   2. All vectors of children of a tree are on one region.
 //
 // Ownership: a record owns its value and its whole subtree; whoever owns the root owns the tree.

@@ -1,0 +1,10 @@
+om_test(backend-vectortree-tests
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeAllocationTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeAppendTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeCopyTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeCounterpartTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeDestructionTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeEditTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeNodeTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeScaleTest.cpp
+        ${CMAKE_CURRENT_LIST_DIR}/VectorTreeWalkTest.cpp)
