@@ -7,7 +7,8 @@ set(OM_HEADERS
   backend/tables/PuppetVector.h backend/tables/om/VectorTree.h
   dimensions/OmDimension.h dimensions/OmDimensionNode.h
   output/OmHeading.h output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h
-  output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h)
+  output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
+  pivot/FormatArea.h pivot/OmPivotTable.h pivot/OmTableFinding.h)
 list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
 
 add_library(om-objects OBJECT
@@ -15,7 +16,11 @@ add_library(om-objects OBJECT
   backend/tables/OmFootnote.cpp
   dimensions/OmDimension.cpp dimensions/OmDimensionEdit.cpp dimensions/OmDimensionNode.cpp
   output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
-  output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp)
+  output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp
+  pivot/FormatArea.cpp pivot/OmPivotTable.cpp pivot/OmPivotTableCells.cpp
+  pivot/OmPivotTableFootnotes.cpp pivot/OmPivotTablePrint.cpp pivot/OmPivotTableProperties.cpp
+  pivot/OmPivotTableSettings.cpp pivot/OmPivotTableValidate.cpp pivot/OmTableFinding.cpp
+  pivot/internal/CellIteration.cpp pivot/internal/CellStore.cpp pivot/internal/PointerVector.cpp)
 om_library_properties(om-objects)
 target_compile_definitions(om-objects PRIVATE OM_BUILDING)
 target_link_libraries(om-objects PUBLIC om-build-options om-cells om-settings om-platform om-blocks)

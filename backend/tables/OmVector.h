@@ -32,6 +32,21 @@
 template <class T>
 inline constexpr bool omMovesBitwise = std::is_trivially_copyable_v<T>;
 
+namespace om::internal {
+
+// The capacity that a vector reaches when elements are added one by one, until there is room for
+// `count`: from a full one it goes to the smallest power of two that is at least 4 and greater.
+inline std::size_t grownCapacity(std::size_t capacity, std::size_t count) {
+  while (capacity < count) {
+    std::size_t grown = 4;
+    while (grown <= capacity) grown *= 2;
+    capacity = grown;
+  }
+  return capacity;
+}
+
+}  // namespace om::internal
+
 template <class T>
 class OmVector {
  public:
@@ -163,15 +178,7 @@ OmVector<T>::~OmVector() {
 
 template <class T>
 void OmVector<T>::makeRoom(std::size_t count) {
-  std::size_t room = capacity();
-  if (room - size() >= count) return;
-  // Each step starts from a full vector.
-  while (room - size() < count) {
-    std::size_t grown = 4;
-    while (grown <= room) grown *= 2;
-    room = grown;
-  }
-  relocate(room);
+  if (capacity() - size() < count) relocate(om::internal::grownCapacity(capacity(), size() + count));
 }
 
 template <class T>

@@ -2,10 +2,10 @@
 // category.
 //
 //   AddInOrder     10^6 categories under one parent, in label order, that nobody looks up
-//   FindOrAdd      10^5 categories in random order, each one looked up and added where it is
-//   missing Find           each of these 10^5, in another random order CopyDeep       a dimension
-//   of 10^4 levels, copied and destroyed; the maps hold its labels MeasureDeep    the depth of that
-//   dimension
+//   FindOrAdd      10^5 categories in random order, looked up and added where they are missing
+//   Find           each of these 10^5, in another random order
+//   CopyDeep       a dimension of 10^4 levels, copied and destroyed; the maps hold its labels
+//   MeasureDeep    the depth of that dimension
 //
 // The labels stand ready as texts for the dimension and as strings for the maps.
 

@@ -7,23 +7,72 @@
 #include "external/cells/OmMemoryRegion.h"
 #include "external/cells/internal/TextOrder.h"
 
-struct OmCellText::Extras {
+// A text that ends with its region may not be destroyed; what it has here is then freed by the
+// region.
+class OmCellText::Extras final : public OmMemoryRegion::Finalizer {
+ public:
+  explicit Extras(OmMemoryRegion* region) {
+    if (region != nullptr) region->AtEnd(*this);
+  }
+  explicit Extras(const Extras& other)
+      : meta(other.meta ? std::make_unique<const OmCellMetaData>(*other.meta) : nullptr),
+        footnotes(other.footnotes) {}
+  ~Extras() override = default;
+
   std::unique_ptr<const OmCellMetaData> meta;
   std::vector<short> footnotes;
 
-  Extras() = default;
-  Extras(const Extras& other)
-      : meta(other.meta ? std::make_unique<const OmCellMetaData>(*other.meta) : nullptr),
-        footnotes(other.footnotes) {}
+ private:
+  void regionEnds() noexcept override { delete this; }
 };
+
+namespace {
+
+constexpr std::uintptr_t kRegionMark = 1;
+
+std::uintptr_t marked(const OmMemoryRegion* region) {
+  return reinterpret_cast<std::uintptr_t>(region) | kRegionMark;
+}
+
+}  // namespace
 
 OmCellText::Visitor::~Visitor() = default;
 
-OmCellText::OmCellText(const OmCellText& other)
-    : tracker_(other.tracker_),
-      extras_(other.extras_ != nullptr ? new Extras(*other.extras_) : nullptr) {}
+OmCellText::OmCellText(const OmCellText& other) : tracker_(other.tracker_) {
+  if (const Extras* const others = other.extras()) {
+    extrasOrRegion_ = reinterpret_cast<std::uintptr_t>(new Extras(*others));
+  }
+}
 
-OmCellText::~OmCellText() { delete extras_; }
+OmCellText::~OmCellText() { delete extras(); }
+
+OmCellText::Extras* OmCellText::extras() const {
+  return (extrasOrRegion_ & kRegionMark) == 0 ? reinterpret_cast<Extras*>(extrasOrRegion_)
+                                              : nullptr;
+}
+
+OmCellText::Extras& OmCellText::neededExtras() {
+  Extras* present = extras();
+  if (present == nullptr) {
+    present = new Extras(reinterpret_cast<OmMemoryRegion*>(extrasOrRegion_ & ~kRegionMark));
+    extrasOrRegion_ = reinterpret_cast<std::uintptr_t>(present);
+  }
+  return *present;
+}
+
+void OmCellText::bind(OmMemoryRegion* region) noexcept {
+  region = OmMemoryRegion::OrDefaultHeap(region);
+  if (Extras* const present = extras()) {
+    region->AtEnd(*present);
+  } else {
+    extrasOrRegion_ = marked(region);
+  }
+}
+
+bool OmCellText::endsWith(const OmMemoryRegion& region) const {
+  const Extras* const present = extras();
+  return present != nullptr ? present->Region() == &region : extrasOrRegion_ == marked(&region);
+}
 
 void* OmCellText::operator new(std::size_t size) {
   return OmMemoryRegion::DefaultHeap()->Allocate(size);
@@ -52,25 +101,25 @@ void OmCellText::Print(unsigned indent) const {
   std::cout << std::string(*this);
 }
 
-bool OmCellText::hasMeta() const { return extras_ != nullptr && extras_->meta != nullptr; }
+bool OmCellText::hasMeta() const {
+  const Extras* const present = extras();
+  return present != nullptr && present->meta != nullptr;
+}
 
 const OmCellMetaData& OmCellText::getMeta() const {
   static const OmCellMetaData none;
-  return hasMeta() ? *extras_->meta : none;
+  return hasMeta() ? *extras()->meta : none;
 }
 
 void OmCellText::setMeta(const OmCellMetaData& meta) {
   auto copy = std::make_unique<const OmCellMetaData>(meta);
-  if (extras_ == nullptr) extras_ = new Extras;
-  extras_->meta = std::move(copy);
+  neededExtras().meta = std::move(copy);
 }
 
-std::vector<short>& OmCellText::Footnotes() {
-  if (extras_ == nullptr) extras_ = new Extras;
-  return extras_->footnotes;
-}
+std::vector<short>& OmCellText::Footnotes() { return neededExtras().footnotes; }
 
 const std::vector<short>& OmCellText::Footnotes() const {
   static const std::vector<short> none;
-  return extras_ != nullptr ? extras_->footnotes : none;
+  const Extras* const present = extras();
+  return present != nullptr ? present->footnotes : none;
 }

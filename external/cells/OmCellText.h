@@ -97,6 +97,11 @@ class OM_CELLS_API OmCellText {
   // line.
   virtual void Print(unsigned indent) const;
 
+  // Whether the region that the text lives in may end without this text's destructor being run:
+  // nothing is lost then. True for clones, made in that region, of the kinds whose storage lies
+  // wholly in it: strings, numbers and dates.
+  bool endsWith(const OmMemoryRegion& region) const;
+
   bool hasMeta() const;
   // The record; an empty one when there is none.
   const OmCellMetaData& getMeta() const;
@@ -110,11 +115,25 @@ class OM_CELLS_API OmCellText {
   OmCellText() = default;
   OmCellText(const OmCellText& other);
 
+  // For Clone and the like: makes the new text one that ends with the region it was made in (null:
+  // the default heap). REQUIRES: all of its storage lies there.
+  template <class Kind>
+  static Kind* endingWith(OmMemoryRegion* region, Kind* text) {
+    text->bind(region);
+    return text;
+  }
+
  private:
-  struct Extras;
+  class Extras;
+
+  void bind(OmMemoryRegion* region) noexcept;
+  Extras* extras() const;
+  Extras& neededExtras();
 
   icuTracker* tracker_ = nullptr;
-  Extras* extras_ = nullptr;  // metadata and footnote positions, owned; null while there are none
+  // Metadata and footnote positions, which are owned, or while there are none the region that the
+  // text ends with, marked by the lowest bit; 0 for neither.
+  std::uintptr_t extrasOrRegion_ = 0;
 };
 
 // One visit for each kind, the container first.

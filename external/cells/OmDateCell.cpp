@@ -6,7 +6,7 @@
 OmDateCell::~OmDateCell() = default;
 
 OmDateCell* OmDateCell::Clone(OmMemoryRegion* region) const {
-  return new (region) OmDateCell(*this);
+  return endingWith(region, new (region) OmDateCell(*this));
 }
 
 OmDateCell::operator std::string() const {

@@ -4,11 +4,13 @@
 #include <atomic>
 #include <bit>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <new>
 
 #include "external/cells/internal/ChunkReserve.h"
 #include "external/cells/internal/Poison.h"
+#include "external/cells/internal/ZeroPages.h"
 
 using om::internal::chunkReserve;
 using om::internal::poison;
@@ -20,7 +22,7 @@ struct OmMemoryRegion::Chunk {
   Chunk* previous;
   OmMemoryRegion* region;
   std::size_t bytes;
-  std::size_t unused;
+  std::size_t pages;  // 1: it came from ZeroPages, 0: from malloc
 };
 
 // Stands before every block. A block that is a chunk of its own has 0 units.
@@ -45,6 +47,7 @@ constexpr std::size_t kChunkHeadBytes = 40;
 constexpr std::size_t kLargestCarved = std::size_t{32} * 1024;
 constexpr std::size_t kFirstChunkBytes = std::size_t{4} * 1024;
 constexpr std::size_t kLargestChunkBytes = om::internal::ChunkReserve::kChunkBytes;
+constexpr std::size_t kFewestPageBytes = std::size_t{256} * 1024;
 
 static_assert(alignof(std::max_align_t) <= kUnit);
 static_assert((kChunkHeadBytes + kHeadBytes) % kUnit == 0);
@@ -83,6 +86,10 @@ OmMemoryRegion::OmMemoryRegion(bool shared) : shared_(shared), nextChunkBytes_(k
 }
 
 OmMemoryRegion::~OmMemoryRegion() {
+  while (Finalizer* const finalizer = finalizers_) {
+    withdraw(*finalizer);
+    finalizer->regionEnds();
+  }
   for (Chunk* chunk = chunks_; chunk != nullptr;) {
     Chunk* const next = chunk->next;
     freeChunk(chunk);
@@ -90,11 +97,15 @@ OmMemoryRegion::~OmMemoryRegion() {
   }
 }
 
-void* OmMemoryRegion::Allocate(std::size_t size) {
+void* OmMemoryRegion::Allocate(std::size_t size) { return allocate(size, false); }
+
+void* OmMemoryRegion::AllocateZeroed(std::size_t size) { return allocate(size, true); }
+
+inline void* OmMemoryRegion::allocate(std::size_t size, bool zeroed) {
   if (const AllocationProbe probe = allocationProbe.load(std::memory_order_relaxed)) probe(size);
-  if (!shared_) return take(size);
+  if (!shared_) return take(size, zeroed);
   const LockWhen lock(mutex_, true);
-  return take(size);
+  return take(size, zeroed);
 }
 
 void OmMemoryRegion::Release(void* block) noexcept {
@@ -111,6 +122,29 @@ OmMemoryRegion* OmMemoryRegion::DefaultHeap() noexcept {
   alignas(OmMemoryRegion) static std::byte storage[sizeof(OmMemoryRegion)];
   static OmMemoryRegion* const heap = ::new (static_cast<void*>(storage)) OmMemoryRegion(true);
   return heap;
+}
+
+OmMemoryRegion::Finalizer::~Finalizer() {
+  if (region_ == nullptr) return;
+  const LockWhen lock(region_->mutex_, region_->shared_);
+  region_->withdraw(*this);
+}
+
+void OmMemoryRegion::AtEnd(Finalizer& finalizer) noexcept {
+  const LockWhen lock(mutex_, shared_);
+  finalizer.region_ = this;
+  finalizer.next_ = finalizers_;
+  if (finalizers_ != nullptr) finalizers_->previous_ = &finalizer;
+  finalizers_ = &finalizer;
+}
+
+void OmMemoryRegion::withdraw(Finalizer& finalizer) noexcept {
+  Finalizer* const next = finalizer.next_;
+  Finalizer* const previous = finalizer.previous_;
+  (previous != nullptr ? previous->next_ : finalizers_) = next;
+  if (next != nullptr) next->previous_ = previous;
+  finalizer.region_ = nullptr;
+  finalizer.next_ = finalizer.previous_ = nullptr;
 }
 
 void OmMemoryRegion::WorkingRelease(bool reuse) noexcept {
@@ -136,11 +170,13 @@ OmMemoryRegion::AllocationProbe OmMemoryRegion::SetAllocationProbe(AllocationPro
   return allocationProbe.exchange(probe);
 }
 
-void* OmMemoryRegion::take(std::size_t size) {
-  Head* const head = size <= kLargestCarved ? carve(unitsFor(size)) : takeChunk(size);
+inline void* OmMemoryRegion::take(std::size_t size, bool zeroed) {
+  const bool carved = size <= kLargestCarved;
+  Head* const head = carved ? carve(unitsFor(size)) : takeChunk(size, zeroed);
   bytesInUse_ += bytesOf(head);
   ++blocksInUse_;
   unpoison(head->block(), size);
+  if (carved && zeroed) std::memset(head->block(), 0, size);
   return head->block();
 }
 
@@ -245,22 +281,38 @@ OmMemoryRegion::Head* OmMemoryRegion::lay(Chunk* chunk, char* place, std::uint32
       Head{static_cast<std::uint32_t>(distance / kUnit), units};
 }
 
-OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size) {
+OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size, bool zeroed) {
   constexpr std::size_t kAround = kChunkHeadBytes + kHeadBytes;
   if (size > std::numeric_limits<std::size_t>::max() - kAround) throw std::bad_alloc();
-  Chunk* const chunk = newChunk(size + kAround);
+  const std::size_t bytes = size + kAround;
+  Chunk* chunk;
+  if (!zeroed) {
+    chunk = newChunk(bytes);
+  } else if (bytes < kFewestPageBytes) {
+    chunk = newChunk(bytes);
+    unpoison(chunk + 1, size + kHeadBytes);
+    std::memset(static_cast<void*>(chunk + 1), 0, size + kHeadBytes);
+  } else {
+    chunk = enter(om::internal::takeZeroPages(bytes), bytes, true);
+  }
   return lay(chunk, reinterpret_cast<char*>(chunk + 1), 0);
 }
 
 OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
   void* place = bytes == kLargestChunkBytes ? chunkReserve.take() : nullptr;
   if (place == nullptr) place = std::malloc(bytes);
+  Chunk* const chunk = enter(place, bytes, false);
+  poison(chunk + 1, bytes - kChunkHeadBytes);
+  return chunk;
+}
+
+// Makes a chunk of what the system gave; null means that it gave nothing.
+OmMemoryRegion::Chunk* OmMemoryRegion::enter(void* place, std::size_t bytes, bool pages) {
   if (place == nullptr) throw std::bad_alloc();
   unpoison(place, kChunkHeadBytes);
-  auto* const chunk = ::new (place) Chunk{chunks_, nullptr, this, bytes, 0};
+  auto* const chunk = ::new (place) Chunk{chunks_, nullptr, this, bytes, pages};
   if (chunks_ != nullptr) chunks_->previous = chunk;
   chunks_ = chunk;
-  poison(chunk + 1, bytes - kChunkHeadBytes);
   return chunk;
 }
 
@@ -271,9 +323,10 @@ void OmMemoryRegion::dropChunk(Chunk* chunk) noexcept {
 }
 
 void OmMemoryRegion::freeChunk(Chunk* chunk) noexcept {
-  const bool reserved = chunk->bytes == kLargestChunkBytes;
-  unpoison(chunk, chunk->bytes);
-  reserved ? chunkReserve.giveBack(chunk) : std::free(chunk);
+  const std::size_t bytes = chunk->bytes;
+  if (chunk->pages != 0) return om::internal::giveBackPages(chunk, bytes);
+  unpoison(chunk, bytes);
+  bytes == kLargestChunkBytes ? chunkReserve.giveBack(chunk) : std::free(chunk);
 }
 
 OmMemoryRegion::Chunk* OmMemoryRegion::chunkOf(Head* head) noexcept {

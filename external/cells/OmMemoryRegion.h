@@ -2,7 +2,8 @@
 //
 // A region takes chunks from the system, hands out blocks from them by moving a pointer, and keeps
 // released blocks in lists by size for the next request. Destroying the region gives back every
-// chunk at once, whatever blocks are still in use; no destructor of what lives in them is run.
+// chunk at once, whatever blocks are still in use; no destructor of what lives in them is run, but
+// for what was registered as a finalizer.
 //
 //   chunk   | chunk head | head | block ...      | head | block ... | not handed out yet |
 //                          8 B    16-byte steps
@@ -15,7 +16,7 @@
 //   a time.
 // Cost: a block has 8 bytes of head and its size is rounded so that both are a multiple of 16.
 //   Blocks above 32 KiB are chunks of their own, cost 48 bytes, and go back to the system when they
-//   are released. Allocate and Release take constant time.
+//   are released. Allocate and Release take constant time, and AllocateZeroed for large blocks too.
 
 #ifndef OM_EXTERNAL_CELLS_OMMEMORYREGION_H_
 #define OM_EXTERNAL_CELLS_OMMEMORYREGION_H_
@@ -33,6 +34,33 @@ class OM_CELLS_API OmMemoryRegion {
   // then nothing has been allocated: this is how a test makes any one allocation fail.
   using AllocationProbe = void (*)(std::size_t size);
 
+  // Something to be done when a region ends: for an object that lives in it and whose destructor
+  // may not be run, though it holds memory from elsewhere.
+  class Finalizer {
+   public:
+    Finalizer(const Finalizer&) = delete;
+    Finalizer& operator=(const Finalizer&) = delete;
+
+    // The region that it is registered with, or null.
+    const OmMemoryRegion* Region() const { return region_; }
+
+   protected:
+    Finalizer() = default;
+    // Withdraws the finalizer, if it is registered.
+    virtual ~Finalizer();
+
+   private:
+    friend class OmMemoryRegion;
+
+    // Called once, when the region ends; the finalizer is not registered any more and may delete
+    // itself. The blocks of the region are still there.
+    virtual void regionEnds() noexcept = 0;
+
+    OmMemoryRegion* region_ = nullptr;
+    Finalizer* next_ = nullptr;
+    Finalizer* previous_ = nullptr;
+  };
+
   // An empty region; it takes its first chunk with the first request.
   explicit OmMemoryRegion(bool shared);
   virtual ~OmMemoryRegion();
@@ -44,6 +72,10 @@ class OM_CELLS_API OmMemoryRegion {
   // fundamental type, with undefined content. Throws std::bad_alloc; the region is then unchanged.
   void* Allocate(std::size_t size);
 
+  // The same, filled with zeros. A large block consists of pages that the system fills at the first
+  // touch, so that the part of it that is never touched costs nothing.
+  void* AllocateZeroed(std::size_t size);
+
   // Gives a block back to the region it came from; null is harmless.
   // REQUIRES: `block` came from Allocate, was not released since, and its region still lives.
   static void Release(void* block) noexcept;
@@ -53,6 +85,10 @@ class OM_CELLS_API OmMemoryRegion {
   static OmMemoryRegion* OrDefaultHeap(OmMemoryRegion* region) noexcept {
     return region != nullptr ? region : DefaultHeap();
   }
+
+  // Registers a finalizer, which stays the caller's.
+  // REQUIRES: it is not registered with any region.
+  void AtEnd(Finalizer& finalizer) noexcept;
 
   // With `reuse` false, as before a bulk destruction, a released block is counted off and then left
   // alone until the region ends. True, the state after construction, makes it available again.
@@ -78,7 +114,9 @@ class OM_CELLS_API OmMemoryRegion {
   static constexpr std::uint32_t kSmallUnits = 64;  // blocks to 1 KiB: one list a size
   static constexpr std::size_t kRangeLists = 21;    // to 32 KiB: four lists a doubling
 
-  void* take(std::size_t size);
+  void withdraw(Finalizer& finalizer) noexcept;
+  void* allocate(std::size_t size, bool zeroed);
+  void* take(std::size_t size, bool zeroed);
   void giveBack(Head* head) noexcept;
 
   Head* carve(std::uint32_t units);
@@ -86,8 +124,9 @@ class OM_CELLS_API OmMemoryRegion {
   Head* popFree(std::uint32_t units) noexcept;
   Head* popRange(std::size_t list) noexcept;
   void pushFree(Head* head) noexcept;
-  Head* takeChunk(std::size_t size);
+  Head* takeChunk(std::size_t size, bool zeroed);
   Chunk* newChunk(std::size_t bytes);
+  Chunk* enter(void* place, std::size_t bytes, bool pages);
   void dropChunk(Chunk* chunk) noexcept;
   static void freeChunk(Chunk* chunk) noexcept;
 
@@ -105,6 +144,7 @@ class OM_CELLS_API OmMemoryRegion {
   char* bumpEnd_ = nullptr;
   Chunk* bumpChunk_ = nullptr;
   Chunk* chunks_ = nullptr;
+  Finalizer* finalizers_ = nullptr;
   std::size_t nextChunkBytes_;
   std::size_t bytesInUse_ = 0;
   std::size_t blocksInUse_ = 0;

@@ -25,7 +25,9 @@ char* write(char* begin, char* limit, double magnitude, int decimals) {
 
 OmNumber::~OmNumber() = default;
 
-OmNumber* OmNumber::Clone(OmMemoryRegion* region) const { return new (region) OmNumber(*this); }
+OmNumber* OmNumber::Clone(OmMemoryRegion* region) const {
+  return endingWith(region, new (region) OmNumber(*this));
+}
 
 OmNumber::operator std::string() const {
   if (std::isnan(value_)) return ".";

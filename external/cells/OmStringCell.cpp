@@ -48,11 +48,11 @@ void OmStringCell::operator delete(void* cell, OmMemoryRegion*, std::size_t) noe
 }
 
 OmStringCell* OmStringCell::Create(std::string_view text, OmMemoryRegion* region, bool utf8) {
-  return new (region, text.size()) OmStringCell(Following{}, text, utf8);
+  return endingWith(region, new (region, text.size()) OmStringCell(Following{}, text, utf8));
 }
 
 OmStringCell* OmStringCell::Clone(OmMemoryRegion* region) const {
-  return new (region, size_) OmStringCell(Following{}, *this);
+  return endingWith(region, new (region, size_) OmStringCell(Following{}, *this));
 }
 
 OmStringCell::operator std::string() const { return std::string(View()); }

@@ -194,8 +194,8 @@ class OmVectorTree {
   // Calls visit(node) for the node and everything below it, parents before children, in order.
   // Where it answers false, what is below the node is left out. Follows the vectors of children,
   // not the links.
-  template <class Visit>
-  static void Walk(const ConstNode& top, const Visit& visit);
+  template <class AnyNode, class Visit>
+  static void Walk(const AnyNode& top, const Visit& visit);
 
   // The record's place among its parent's children. REQUIRES: it is not the root.
   static std::size_t OffsetOf(const Entry& record) {
@@ -362,10 +362,10 @@ AnyNode OmVectorTree<T>::Counterpart(const ConstNode& node, const AnyNode& other
 }
 
 template <class T>
-template <class Visit>
-void OmVectorTree<T>::Walk(const ConstNode& top, const Visit& visit) {
-  std::vector<std::pair<ConstNode, ConstNode>> levels;  // on each level, the next node and the end
-  const auto enter = [&](const ConstNode& node) {
+template <class AnyNode, class Visit>
+void OmVectorTree<T>::Walk(const AnyNode& top, const Visit& visit) {
+  std::vector<std::pair<AnyNode, AnyNode>> levels;  // on each level, the next node and the end
+  const auto enter = [&](const AnyNode& node) {
     if (visit(node)) levels.emplace_back(node.FirstChild(), node.ChildrenEnd());
   };
   enter(top);
@@ -375,7 +375,7 @@ void OmVectorTree<T>::Walk(const ConstNode& top, const Visit& visit) {
       levels.pop_back();
       continue;
     }
-    const ConstNode node = next;
+    const AnyNode node = next;
     ++next;
     enter(node);
   }
