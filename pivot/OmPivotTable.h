@@ -44,9 +44,20 @@
 #include "pivot/OmTableFinding.h"
 
 namespace om::internal {
-class CellIteration;
+
 class PointerVector;
 struct PivotTableInternals;
+
+// Where an iteration over cells stands: a leaf of the cell store, and an element of it.
+struct CellPlace {
+  void* const* leaf = nullptr;
+  void* const* leafEnd = nullptr;
+  void* const* at = nullptr;  // null at the end of the iteration
+
+  // Goes one element on, and says whether a cell is there. REQUIRES: not at the end.
+  bool Step() { return ++at != leafEnd && *at != nullptr; }
+};
+
 }  // namespace om::internal
 
 class OM_EXPORT OmPivotTable : public OmOutputPart {
@@ -160,7 +171,8 @@ class OM_EXPORT OmPivotTable : public OmOutputPart {
   OmVector<OmFootnote>& Footnotes();
   const OmVector<OmFootnote>& Footnotes() const;
 
-  // ---- Texts. Each is null until it is set; setting clones, and null clears.
+  // ---- Texts. The template name is that of the constructor; the others are null until they are
+  // set. Setting clones, and null clears.
 
   OmCellText* TemplateName();
   const OmCellText* TemplateName() const;
@@ -252,10 +264,11 @@ class OM_EXPORT OmPivotTable : public OmOutputPart {
 
   // ---- Formats and styles
 
-  // The format of an area, or null where none is set or the area is above 8.
+  // The format of an area, or null where none is set or the area is above 8. (An area that is asked
+  // for is entered with null, also by a const table, so std::bad_alloc may be thrown.)
   FormatArea* getAreaFormat(FormatArea::Area area) const;
-  // Takes the format over and deletes the one that the area had; nothing for null. REQUIRES: the
-  // format is not in a table yet.
+  // Takes the format over, also when it throws, and deletes the one that the area had; nothing for
+  // null. One above 8 is kept as well, out of reach. REQUIRES: the format is not in a table yet.
   void setAreaFormat(FormatArea* format);
 
   // The styles that cells may refer to, and which empty place has which style, in the terms of the
@@ -351,12 +364,18 @@ class OM_EXPORT OmPivotTable::CellIterator {
   ~CellIterator();
 
   // The current cell, null at the end.
-  Text* Cell() const;
+  Text* Cell() const {
+    return data_ != nullptr && data_->at != nullptr ? static_cast<OmCellText*>(*data_->at)
+                                                    : nullptr;
+  }
   // The subscripts of the current cell, dimension 0 first. REQUIRES: not at the end.
   const std::vector<int>& Index() const;
 
   // Goes to the next stored cell. At the end it stays there.
-  CellIterator& operator++();
+  CellIterator& operator++() {
+    if (data_ != nullptr && data_->at != nullptr && !data_->Step()) findNext();
+    return *this;
+  }
   CellIterator operator++(int);
   Entry operator*() const { return {Index(), *Cell()}; }
 
@@ -364,12 +383,14 @@ class OM_EXPORT OmPivotTable::CellIterator {
   bool operator==(const CellIterator& other) const { return Cell() == other.Cell(); }
 
  private:
-  using Data = om::internal::CellIteration;
+  using Data = om::internal::CellPlace;  // of a CellIteration
   friend class OmPivotTable;
 
   explicit CellIterator(Data* data) : data_(data) {}
 
-  Data* data_ = nullptr;  // null, as with all iterators that have no levels
+  void findNext();
+
+  Data* data_ = nullptr;  // null in an iterator that was made without a table
 };
 
 extern template class OmPivotTable::CellIterator<OmCellText>;

@@ -12,18 +12,31 @@ using om::internal::CellIteration;
 
 namespace {
 
-void checkLength(const std::vector<int>& index, std::size_t dimensions, bool emptyIsFine) {
-  if (index.size() == dimensions && (emptyIsFine || dimensions != 0)) return;
+[[noreturn, gnu::cold]] void refuseLength(const std::vector<int>& index, std::size_t dimensions) {
   throw OMSException("OmPivotTable::Cell() -- nind != _my->_dimensions.size()",
                      static_cast<double>(index.size()), static_cast<double>(dimensions));
 }
 
+[[noreturn, gnu::cold]] void refuseSubscript(int subscript) {
+  throw OMSException("OmPivotTable::Cell() -- subscript < 0",
+                     static_cast<double>(static_cast<unsigned long long>(subscript)), 0);
+}
+
 void checkSigns(const std::vector<int>& index) {
   for (const int subscript : index) {
-    if (subscript >= 0) continue;
-    throw OMSException("OmPivotTable::Cell() -- subscript < 0",
-                       static_cast<double>(static_cast<unsigned long long>(subscript)), 0);
+    if (subscript < 0) refuseSubscript(subscript);
   }
+}
+
+om::internal::CellPlace* firstPlace(const om::internal::PointerVector* root,
+                                    const std::vector<int>& sizes) {
+  auto iteration = std::make_unique<CellIteration>(root, sizes);
+  iteration->First();
+  return iteration.release();
+}
+
+CellIteration* iterationOf(om::internal::CellPlace* place) {
+  return static_cast<CellIteration*>(place);
 }
 
 }  // namespace
@@ -33,7 +46,8 @@ OmCellText* OmPivotTable::Cell(const std::vector<int>& index) {
 }
 
 const OmCellText* OmPivotTable::Cell(const std::vector<int>& index) const {
-  checkLength(index, NDimensions(), true);
+  const std::size_t dimensions = _my->dimensions.size();
+  if (index.size() != dimensions) refuseLength(index, dimensions);
   // A subscript of a cell that is found cannot be negative.
   const OmCellText* const cell = index.empty() ? nullptr : _my->cells.Find(index);
   if (cell == nullptr) checkSigns(index);
@@ -47,7 +61,8 @@ bool OmPivotTable::Cell(const std::vector<int>& index, const OmCellText* text) {
     Scratch(true);
     return false;
   }
-  checkLength(index, NDimensions(), false);
+  const std::size_t dimensions = _my->dimensions.size();
+  if (index.size() != dimensions || dimensions == 0) refuseLength(index, dimensions);
   checkSigns(index);
 
   // Cloned before anything changes: the text may be the very cell that it replaces.
@@ -77,15 +92,11 @@ bool OmPivotTable::IsScratched() const { return _my->scratched; }
 void OmPivotTable::Scratch(bool scratched) { _my->scratched = scratched; }
 
 OmPivotTable::Iterator OmPivotTable::FirstCell() {
-  auto iteration = std::make_unique<CellIteration>(_my->cells.Root(), SizeVector());
-  iteration->First();
-  return Iterator(iteration.release());
+  return Iterator(firstPlace(_my->cells.Root(), SizeVector()));
 }
 
 OmPivotTable::ConstIterator OmPivotTable::FirstCell() const {
-  auto iteration = std::make_unique<CellIteration>(_my->cells.Root(), SizeVector());
-  iteration->First();
-  return ConstIterator(iteration.release());
+  return ConstIterator(firstPlace(_my->cells.Root(), SizeVector()));
 }
 
 OmPivotTable::Iterator OmPivotTable::begin() { return FirstCell(); }
@@ -98,7 +109,7 @@ OmPivotTable::ConstIterator OmPivotTable::end() const { return ConstIterator(); 
 
 template <class Text>
 OmPivotTable::CellIterator<Text>::CellIterator(const CellIterator& other)
-    : data_(other.data_ != nullptr ? new Data(*other.data_) : nullptr) {}
+    : data_(other.data_ != nullptr ? new CellIteration(*iterationOf(other.data_)) : nullptr) {}
 
 template <class Text>
 OmPivotTable::CellIterator<Text>::CellIterator(CellIterator&& other) noexcept
@@ -121,24 +132,18 @@ OmPivotTable::CellIterator<Text>& OmPivotTable::CellIterator<Text>::operator=(
 
 template <class Text>
 OmPivotTable::CellIterator<Text>::~CellIterator() {
-  delete data_;
-}
-
-template <class Text>
-Text* OmPivotTable::CellIterator<Text>::Cell() const {
-  return data_ != nullptr ? data_->Cell() : nullptr;
+  delete iterationOf(data_);
 }
 
 template <class Text>
 const std::vector<int>& OmPivotTable::CellIterator<Text>::Index() const {
   static const std::vector<int> none;
-  return data_ != nullptr ? data_->Index() : none;
+  return data_ != nullptr ? iterationOf(data_)->Index() : none;
 }
 
 template <class Text>
-OmPivotTable::CellIterator<Text>& OmPivotTable::CellIterator<Text>::operator++() {
-  if (data_ != nullptr) data_->Next();
-  return *this;
+void OmPivotTable::CellIterator<Text>::findNext() {
+  iterationOf(data_)->Find();
 }
 
 template <class Text>

@@ -12,7 +12,7 @@
 namespace {
 
 using Findings = std::vector<OmTableFinding>;
-using Subscripts = std::set<unsigned long long>;
+using Subscripts = std::set<long long>;
 
 std::string dimensionPlace(std::size_t dimension) {
   return "dimension " + std::to_string(dimension);
@@ -35,11 +35,10 @@ void checkAxis(const std::string& name, const PuppetVector<short>& axis, std::ve
     const short entry = axis[i];
     if (entry == -1) continue;
     const std::string place = name + "[" + std::to_string(i) + "]";
-    const auto dimension = static_cast<unsigned long long>(entry);
-    if (entry < 0 || dimension >= uses.size()) {
-      findings.push_back({OmTableFinding::AXIS_ENTRY_WITHOUT_DIMENSION, place, dimension});
-    } else if (uses[dimension]++ > 0) {
-      findings.push_back({OmTableFinding::DIMENSION_ON_AXES_TWICE, place, dimension});
+    if (entry < 0 || static_cast<std::size_t>(entry) >= uses.size()) {
+      findings.push_back({OmTableFinding::AXIS_ENTRY_WITHOUT_DIMENSION, place, entry});
+    } else if (uses[static_cast<std::size_t>(entry)]++ > 0) {
+      findings.push_back({OmTableFinding::DIMENSION_ON_AXES_TWICE, place, entry});
     }
   }
 }
@@ -48,52 +47,55 @@ void checkFootnotes(const std::string& place, const OmCellText* text, std::size_
                     Findings& findings) {
   if (text == nullptr) return;
   for (const short position : text->Footnotes()) {
-    const auto value = static_cast<unsigned long long>(position);
-    if (value >= count) findings.push_back({OmTableFinding::FOOTNOTE_BEYOND_LIST, place, value});
+    if (position >= 0 && static_cast<std::size_t>(position) < count) continue;
+    findings.push_back({OmTableFinding::FOOTNOTE_BEYOND_LIST, place, position});
   }
 }
 
 // Checks one dimension, and gives the subscripts of its categories.
 Subscripts checkDimension(std::size_t position, const OmDimension& dimension, std::size_t footnotes,
                           Findings& findings) {
-  const auto size = static_cast<unsigned long long>(std::max(0, dimension.NumCategories()));
+  const long long size = dimension.NumCategories();
   Subscripts subscripts;
-  std::vector<std::size_t> path;  // the next position at each level below the root
+  std::vector<std::size_t> path;  // the positions of the node and its ancestors below the root
+  std::vector<const OmDimension::Tree::Entry*> records;  // of the root, ..., the parent, the node
   OmDimension::Tree::Walk(dimension.Root(), [&](const OmDimension::ConstNode& node) {
+    const std::size_t depth = node.Depth();
     std::string place = dimensionPlace(position);
-    if (node.Depth() > 0) {
-      path.resize(node.Depth());
+    if (depth > 0) {
+      const std::size_t offset = path.size() < depth ? 0 : path[depth - 1] + 1;
+      path.resize(depth);
+      path.back() = offset;
       place += ", node " + joined(path, "/");
-      ++path.back();
+      if (node.Record()->parent != records[depth - 1]) {
+        findings.push_back({OmTableFinding::STALE_PARENT_LINK, place, 0});
+      }
     }
-    path.push_back(0);
+    records.resize(depth);
+    records.push_back(node.Record());
 
-    const bool linked =
-        std::all_of(node.Record()->children.begin(), node.Record()->children.end(),
-                    [&node](const auto& child) { return child.parent == node.Record(); });
-    if (!linked) findings.push_back({OmTableFinding::STALE_PARENT_LINK, place, 0});
     checkFootnotes(place, node->Text(), footnotes, findings);
     if (node->IsGroup() || node.Depth() == 0) return true;
 
-    const unsigned long long subscript = node->Subscript();
+    const auto subscript = static_cast<long long>(node->Subscript());
     if (!subscripts.insert(subscript).second) {
       findings.push_back({OmTableFinding::DUPLICATE_SUBSCRIPT, place, subscript});
     }
-    if (subscript >= size) {
+    if (subscript < 0 || subscript >= size) {
       findings.push_back({OmTableFinding::SUBSCRIPT_BEYOND_SIZE, place, subscript});
     }
     return true;
   });
 
-  unsigned long long next = 0;
-  const auto expectNext = [&](unsigned long long subscript) {
+  long long next = 0;
+  const auto expectNext = [&](long long subscript) {
     if (subscript > next) {
       findings.push_back({OmTableFinding::MISSING_SUBSCRIPT, dimensionPlace(position), next});
     }
     next = subscript + 1;
   };
-  for (const unsigned long long subscript : subscripts) {
-    if (subscript < size) expectNext(subscript);
+  for (const long long subscript : subscripts) {
+    if (subscript >= 0 && subscript < size) expectNext(subscript);
   }
   expectNext(size);
   return subscripts;
@@ -128,8 +130,8 @@ std::vector<OmTableFinding> OmPivotTable::validate() const {
     const std::vector<int>& index = at.Index();
     const std::string place = "cell (" + joined(index, ", ") + ")";
     for (std::size_t i = 0; i < index.size(); ++i) {
-      if (subscripts[i].count(static_cast<unsigned long long>(index[i])) != 0) continue;
-      findings.push_back({OmTableFinding::UNREACHABLE_CELL, place, i});
+      if (subscripts[i].count(index[i]) != 0) continue;
+      findings.push_back({OmTableFinding::UNREACHABLE_CELL, place, static_cast<long long>(i)});
     }
     checkFootnotes(place, at.Cell(), footnotes, findings);
   }

@@ -5,7 +5,7 @@ std::string OmTableFinding::Message() const {
   const auto says = [this](const std::string& what) { return place + ": " + what; };
   switch (kind) {
     case AXIS_ENTRY_WITHOUT_DIMENSION:
-      return says("there is no dimension " + std::to_string(static_cast<long long>(value)));
+      return says("there is no dimension " + number);
     case DIMENSION_ON_NO_AXIS:
       return says("it stands on no axis");
     case DIMENSION_ON_AXES_TWICE:
@@ -21,7 +21,7 @@ std::string OmTableFinding::Message() const {
     case UNREACHABLE_CELL:
       return says("no category leads to it along dimension " + number);
     case FOOTNOTE_BEYOND_LIST:
-      return says("there is no footnote " + std::to_string(static_cast<long long>(value)));
+      return says("there is no footnote " + number);
   }
   return says("unknown finding");
 }

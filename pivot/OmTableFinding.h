@@ -27,10 +27,14 @@ struct OM_EXPORT OmTableFinding {
   // title", "caption", "corner text".
   std::string place;
   // The axis entry, the subscript, the position of the footnote, or the dimension along which no
-  // category leads to the cell; 0 where the place says it all.
-  unsigned long long value;
+  // category leads to the cell; 0 where the place says it all. A subscript is taken as signed.
+  long long value;
 
-  // Place and finding as a sentence, as in "rows[1]: there is no dimension 7".
+  // Place and finding as a sentence: "<place>: " and
+  //   "there is no dimension 7", "it stands on no axis", "dimension 7 stands on the axes already",
+  //   "an earlier category has the subscript 7", "no category has the subscript 7",
+  //   "the subscript 7 is beyond the size of the dimension", "the link to the parent is stale",
+  //   "no category leads to it along dimension 7" or "there is no footnote 7".
   std::string Message() const;
 
   bool operator==(const OmTableFinding&) const = default;

@@ -26,30 +26,13 @@ class OmCellText::Extras final : public OmMemoryRegion::Finalizer {
   void regionEnds() noexcept override { delete this; }
 };
 
-namespace {
-
-constexpr std::uintptr_t kRegionMark = 1;
-
-std::uintptr_t marked(const OmMemoryRegion* region) {
-  return reinterpret_cast<std::uintptr_t>(region) | kRegionMark;
-}
-
-}  // namespace
-
 OmCellText::Visitor::~Visitor() = default;
 
-OmCellText::OmCellText(const OmCellText& other) : tracker_(other.tracker_) {
-  if (const Extras* const others = other.extras()) {
-    extrasOrRegion_ = reinterpret_cast<std::uintptr_t>(new Extras(*others));
-  }
+void OmCellText::copyExtras(const OmCellText& other) {
+  extrasOrRegion_ = reinterpret_cast<std::uintptr_t>(new Extras(*other.extras()));
 }
 
 OmCellText::~OmCellText() { delete extras(); }
-
-OmCellText::Extras* OmCellText::extras() const {
-  return (extrasOrRegion_ & kRegionMark) == 0 ? reinterpret_cast<Extras*>(extrasOrRegion_)
-                                              : nullptr;
-}
 
 OmCellText::Extras& OmCellText::neededExtras() {
   Extras* present = extras();
@@ -69,9 +52,9 @@ void OmCellText::bind(OmMemoryRegion* region) noexcept {
   }
 }
 
-bool OmCellText::endsWith(const OmMemoryRegion& region) const {
+bool OmCellText::extrasEndWith(const OmMemoryRegion& region) const {
   const Extras* const present = extras();
-  return present != nullptr ? present->Region() == &region : extrasOrRegion_ == marked(&region);
+  return present != nullptr && present->Region() == &region;
 }
 
 void* OmCellText::operator new(std::size_t size) {

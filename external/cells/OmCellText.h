@@ -100,7 +100,9 @@ class OM_CELLS_API OmCellText {
   // Whether the region that the text lives in may end without this text's destructor being run:
   // nothing is lost then. True for clones, made in that region, of the kinds whose storage lies
   // wholly in it: strings, numbers and dates.
-  bool endsWith(const OmMemoryRegion& region) const;
+  bool endsWith(const OmMemoryRegion& region) const {
+    return extrasOrRegion_ == marked(&region) || extrasEndWith(region);
+  }
 
   bool hasMeta() const;
   // The record; an empty one when there is none.
@@ -113,21 +115,37 @@ class OM_CELLS_API OmCellText {
 
  protected:
   OmCellText() = default;
-  OmCellText(const OmCellText& other);
+  OmCellText(const OmCellText& other) : tracker_(other.tracker_) {
+    if (other.extras() != nullptr) copyExtras(other);
+  }
 
   // For Clone and the like: makes the new text one that ends with the region it was made in (null:
   // the default heap). REQUIRES: all of its storage lies there.
   template <class Kind>
   static Kind* endingWith(OmMemoryRegion* region, Kind* text) {
-    text->bind(region);
+    if (text->extrasOrRegion_ == 0 && region != nullptr) {
+      text->extrasOrRegion_ = marked(region);
+    } else {
+      text->bind(region);
+    }
     return text;
   }
 
  private:
   class Extras;
 
+  static constexpr std::uintptr_t kRegionMark = 1;
+  static std::uintptr_t marked(const OmMemoryRegion* region) {
+    return reinterpret_cast<std::uintptr_t>(region) | kRegionMark;
+  }
+
+  bool extrasEndWith(const OmMemoryRegion& region) const;
   void bind(OmMemoryRegion* region) noexcept;
-  Extras* extras() const;
+  Extras* extras() const {
+    return (extrasOrRegion_ & kRegionMark) == 0 ? reinterpret_cast<Extras*>(extrasOrRegion_)
+                                                : nullptr;
+  }
+  void copyExtras(const OmCellText& other);
   Extras& neededExtras();
 
   icuTracker* tracker_ = nullptr;

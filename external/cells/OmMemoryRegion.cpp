@@ -7,10 +7,11 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "external/cells/internal/ChunkReserve.h"
+#include "external/cells/internal/Pages.h"
 #include "external/cells/internal/Poison.h"
-#include "external/cells/internal/ZeroPages.h"
 
 using om::internal::chunkReserve;
 using om::internal::poison;
@@ -90,16 +91,56 @@ OmMemoryRegion::~OmMemoryRegion() {
     withdraw(*finalizer);
     finalizer->regionEnds();
   }
-  for (Chunk* chunk = chunks_; chunk != nullptr;) {
-    Chunk* const next = chunk->next;
-    freeChunk(chunk);
-    chunk = next;
+  for (Chunk* chunk : {chunks_, pageChunks_}) {
+    while (chunk != nullptr) freeChunk(std::exchange(chunk, chunk->next));
   }
 }
 
-void* OmMemoryRegion::Allocate(std::size_t size) { return allocate(size, false); }
+// REQUIRES: the list is not empty.
+inline OmMemoryRegion::Head* OmMemoryRegion::pop(FreeBlock*& list) noexcept {
+  FreeBlock* const block = list;
+  unpoison(block, sizeof(FreeBlock));
+  list = block->next;
+  poison(block, sizeof(FreeBlock));
+  return Head::of(block);
+}
 
-void* OmMemoryRegion::AllocateZeroed(std::size_t size) { return allocate(size, true); }
+inline OmMemoryRegion::Head* OmMemoryRegion::lay(Chunk* chunk, char* place,
+                                                 std::uint32_t units) noexcept {
+  const auto distance = static_cast<std::size_t>(place - reinterpret_cast<char*>(chunk + 1));
+  unpoison(place, kHeadBytes);
+  return ::new (static_cast<void*>(place))
+      Head{static_cast<std::uint32_t>(distance / kUnit), units};
+}
+
+inline OmMemoryRegion::Head* OmMemoryRegion::carve(std::uint32_t units) {
+  if (units <= kSmallUnits) {
+    if (FreeBlock*& list = small_[units - 1]; list != nullptr) return pop(list);
+  } else if (rangesFilled_ != 0) {
+    if (Head* const released = popLarge(units)) return released;
+  }
+  if (static_cast<std::size_t>(bumpEnd_ - bump_) < units * kUnit) refill(units);
+  Head* const head = lay(bumpChunk_, bump_, units);
+  bump_ += units * kUnit;
+  return head;
+}
+
+inline void* OmMemoryRegion::take(std::size_t size, bool zeroed) {
+  Head* head;
+  if (size <= kLargestCarved) {
+    const std::uint32_t units = unitsFor(size);
+    head = carve(units);
+    bytesInUse_ += units * kUnit;
+    unpoison(head->block(), size);
+    if (zeroed) std::memset(head->block(), 0, size);
+  } else {
+    head = takeChunk(size, zeroed);
+    bytesInUse_ += bytesOf(head);
+    unpoison(head->block(), size);
+  }
+  ++blocksInUse_;
+  return head->block();
+}
 
 inline void* OmMemoryRegion::allocate(std::size_t size, bool zeroed) {
   if (const AllocationProbe probe = allocationProbe.load(std::memory_order_relaxed)) probe(size);
@@ -107,6 +148,10 @@ inline void* OmMemoryRegion::allocate(std::size_t size, bool zeroed) {
   const LockWhen lock(mutex_, true);
   return take(size, zeroed);
 }
+
+void* OmMemoryRegion::Allocate(std::size_t size) { return allocate(size, false); }
+
+void* OmMemoryRegion::AllocateZeroed(std::size_t size) { return allocate(size, true); }
 
 void OmMemoryRegion::Release(void* block) noexcept {
   if (block == nullptr) return;
@@ -170,16 +215,6 @@ OmMemoryRegion::AllocationProbe OmMemoryRegion::SetAllocationProbe(AllocationPro
   return allocationProbe.exchange(probe);
 }
 
-inline void* OmMemoryRegion::take(std::size_t size, bool zeroed) {
-  const bool carved = size <= kLargestCarved;
-  Head* const head = carved ? carve(unitsFor(size)) : takeChunk(size, zeroed);
-  bytesInUse_ += bytesOf(head);
-  ++blocksInUse_;
-  unpoison(head->block(), size);
-  if (carved && zeroed) std::memset(head->block(), 0, size);
-  return head->block();
-}
-
 void OmMemoryRegion::giveBack(Head* head) noexcept {
   bytesInUse_ -= bytesOf(head);
   --blocksInUse_;
@@ -190,14 +225,6 @@ void OmMemoryRegion::giveBack(Head* head) noexcept {
   } else {
     dropChunk(chunkOf(head));
   }
-}
-
-OmMemoryRegion::Head* OmMemoryRegion::carve(std::uint32_t units) {
-  if (Head* const released = popFree(units)) return released;
-  if (static_cast<std::size_t>(bumpEnd_ - bump_) < units * kUnit) refill(units);
-  Head* const head = lay(bumpChunk_, bump_, units);
-  bump_ += units * kUnit;
-  return head;
 }
 
 // Finds new room to carve from, once the present room is too short; what was left of it becomes a
@@ -224,11 +251,8 @@ void OmMemoryRegion::refill(std::uint32_t units) {
   bumpChunk_ = chunk;
 }
 
-OmMemoryRegion::Head* OmMemoryRegion::popFree(std::uint32_t units) noexcept {
-  if (units <= kSmallUnits) {
-    FreeBlock*& list = small_[units - 1];
-    return list == nullptr ? nullptr : pop(list);
-  }
+// REQUIRES: units > kSmallUnits.
+OmMemoryRegion::Head* OmMemoryRegion::popLarge(std::uint32_t units) noexcept {
   // Blocks of this list may be shorter than asked for; those of every later list are long enough.
   std::size_t list = rangeOf(units);
   const bool firstFits = ranges_[list] != nullptr && Head::of(ranges_[list])->units >= units;
@@ -265,22 +289,6 @@ OmMemoryRegion::Head* OmMemoryRegion::popRange(std::size_t list) noexcept {
   return head;
 }
 
-// REQUIRES: the list is not empty.
-OmMemoryRegion::Head* OmMemoryRegion::pop(FreeBlock*& list) noexcept {
-  FreeBlock* const block = list;
-  unpoison(block, sizeof(FreeBlock));
-  list = block->next;
-  poison(block, sizeof(FreeBlock));
-  return Head::of(block);
-}
-
-OmMemoryRegion::Head* OmMemoryRegion::lay(Chunk* chunk, char* place, std::uint32_t units) noexcept {
-  const auto distance = static_cast<std::size_t>(place - reinterpret_cast<char*>(chunk + 1));
-  unpoison(place, kHeadBytes);
-  return ::new (static_cast<void*>(place))
-      Head{static_cast<std::uint32_t>(distance / kUnit), units};
-}
-
 OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size, bool zeroed) {
   constexpr std::size_t kAround = kChunkHeadBytes + kHeadBytes;
   if (size > std::numeric_limits<std::size_t>::max() - kAround) throw std::bad_alloc();
@@ -299,8 +307,7 @@ OmMemoryRegion::Head* OmMemoryRegion::takeChunk(std::size_t size, bool zeroed) {
 }
 
 OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
-  void* place = bytes == kLargestChunkBytes ? chunkReserve.take() : nullptr;
-  if (place == nullptr) place = std::malloc(bytes);
+  void* const place = bytes == kLargestChunkBytes ? chunkReserve.take() : std::malloc(bytes);
   Chunk* const chunk = enter(place, bytes, false);
   poison(chunk + 1, bytes - kChunkHeadBytes);
   return chunk;
@@ -310,14 +317,16 @@ OmMemoryRegion::Chunk* OmMemoryRegion::newChunk(std::size_t bytes) {
 OmMemoryRegion::Chunk* OmMemoryRegion::enter(void* place, std::size_t bytes, bool pages) {
   if (place == nullptr) throw std::bad_alloc();
   unpoison(place, kChunkHeadBytes);
-  auto* const chunk = ::new (place) Chunk{chunks_, nullptr, this, bytes, pages};
-  if (chunks_ != nullptr) chunks_->previous = chunk;
-  chunks_ = chunk;
+  Chunk*& chunks = pages ? pageChunks_ : chunks_;
+  auto* const chunk = ::new (place) Chunk{chunks, nullptr, this, bytes, pages};
+  if (chunks != nullptr) chunks->previous = chunk;
+  chunks = chunk;
   return chunk;
 }
 
 void OmMemoryRegion::dropChunk(Chunk* chunk) noexcept {
-  (chunk->previous != nullptr ? chunk->previous->next : chunks_) = chunk->next;
+  Chunk*& chunks = chunk->pages != 0 ? pageChunks_ : chunks_;
+  (chunk->previous != nullptr ? chunk->previous->next : chunks) = chunk->next;
   if (chunk->next != nullptr) chunk->next->previous = chunk->previous;
   freeChunk(chunk);
 }

@@ -121,7 +121,7 @@ class OM_CELLS_API OmMemoryRegion {
 
   Head* carve(std::uint32_t units);
   void refill(std::uint32_t units);
-  Head* popFree(std::uint32_t units) noexcept;
+  Head* popLarge(std::uint32_t units) noexcept;
   Head* popRange(std::size_t list) noexcept;
   void pushFree(Head* head) noexcept;
   Head* takeChunk(std::size_t size, bool zeroed);
@@ -144,6 +144,8 @@ class OM_CELLS_API OmMemoryRegion {
   char* bumpEnd_ = nullptr;
   Chunk* bumpChunk_ = nullptr;
   Chunk* chunks_ = nullptr;
+  // Those of zero pages. Leak checkers do not look into them, so no other chunk hangs on them.
+  Chunk* pageChunks_ = nullptr;
   Finalizer* finalizers_ = nullptr;
   std::size_t nextChunkBytes_;
   std::size_t bytesInUse_ = 0;

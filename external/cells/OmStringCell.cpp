@@ -1,5 +1,6 @@
 #include "external/cells/OmStringCell.h"
 
+#include <cstring>
 #include <new>
 
 #include "external/cells/OmMemoryRegion.h"
@@ -22,7 +23,11 @@ OmStringCell::OmStringCell(Following, std::string_view text, bool utf8) noexcept
 
 OmStringCell::OmStringCell(Following, const OmStringCell& other)
     : OmCellText(other), size_(other.size_), utf8_(other.utf8_), elsewhere_(0) {
-  other.View().copy(room_, other.size_);
+  if (size_ <= kOwnRoom) {
+    std::memcpy(room_, other.room_, kOwnRoom);
+  } else {
+    other.View().copy(room_, other.size_);
+  }
 }
 
 OmStringCell::~OmStringCell() {

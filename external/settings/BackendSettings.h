@@ -17,19 +17,19 @@ class OM_SETTINGS_API BackendSettings {
   ~BackendSettings();
 
   // Whether the texts of a table are given the trackers of its code page.
-  bool getFastTables() const;
+  bool getFastTables() const { return fastTables_; }
   void setFastTables(bool fastTables);
 
   // Whether the engine runs in Unicode mode.
-  bool getUnicode() const;
+  bool getUnicode() const { return unicode_; }
   void setUnicode(bool unicode);
 
   // The engine's locale, by its name.
-  const std::string& getLocale() const;
+  const std::string& getLocale() const { return locale_; }
   void setLocale(const std::string& locale);
 
   // How many cells a table may be given before it is marked as scratched.
-  long long getMaxCells() const;
+  long long getMaxCells() const { return maxCells_; }
   void setMaxCells(long long maxCells);
 
  private:

@@ -10,17 +10,15 @@ CellIteration::CellIteration(const PointerVector* root, const std::vector<int>& 
 
 void CellIteration::First() {
   const void* element = root_;
-  for (std::size_t i = levels_.size(); i-- > 0;) {
-    if (element == nullptr) return;
+  for (std::size_t i = levels_.size(); i-- > 0 && element != nullptr;) {
     const auto* const node = static_cast<const PointerVector*>(element);
     const std::size_t position = node->nextNonNull(0);
     if (position == node->size()) return;
     levels_[i].node = node;
     levels_[i].position = position;
-    index_[i] = static_cast<int>(position);
     element = (*node)[position];
+    if (i == 0) stand(position);
   }
-  cell_ = static_cast<OmCellText*>(const_cast<void*>(element));
 }
 
 void CellIteration::Complete() {
@@ -29,32 +27,38 @@ void CellIteration::Complete() {
   find(levels_.size() - 1, 0);
 }
 
-void CellIteration::Next() {
-  if (cell_ != nullptr) find(0, levels_[0].position + 1);
+const std::vector<int>& CellIteration::Index() {
+  if (at != nullptr) levels_[0].position = static_cast<std::size_t>(at - leaf);
+  for (std::size_t i = 0; i < levels_.size(); ++i) {
+    index_[i] = static_cast<int>(levels_[i].position);
+  }
+  return index_;
 }
 
 // Looks for a cell from a position of a level on: up to the next level where a node has no more
 // children, down where it has one.
 void CellIteration::find(std::size_t level, std::size_t from) {
+  at = nullptr;
   for (;;) {
-    Level& at = levels_[level];
-    const std::size_t position = at.node->nextNonNull(from);
-    if (position == at.node->size()) {
-      if (++level == levels_.size()) break;
+    Level& present = levels_[level];
+    const std::size_t position = present.node->nextNonNull(from);
+    if (position == present.node->size()) {
+      if (++level == levels_.size()) return;
       from = levels_[level].position + 1;
       continue;
     }
-    at.position = position;
-    index_[level] = static_cast<int>(position);
-    void* const element = (*at.node)[position];
-    if (level == 0) {
-      cell_ = static_cast<OmCellText*>(element);
-      return;
-    }
-    levels_[--level].node = static_cast<const PointerVector*>(element);
+    present.position = position;
+    if (level == 0) return stand(position);
+    levels_[--level].node = static_cast<const PointerVector*>((*present.node)[position]);
     from = 0;
   }
-  cell_ = nullptr;
+}
+
+void CellIteration::stand(std::size_t position) {
+  const PointerVector& node = *levels_[0].node;
+  leaf = node.begin();
+  leafEnd = node.end();
+  at = leaf + position;
 }
 
 }  // namespace om::internal

@@ -1,33 +1,37 @@
 #include "pivot/internal/CellStore.h"
 
+#include <utility>
+
 namespace om::internal {
 
 CellStore::Place CellStore::Reach(const std::vector<int>& index) {
-  // Takes back what was added when the way cannot be completed: an iteration ends at a node that
-  // leads to no cell.
-  struct Added {
-    ~Added() {
-      if (first == nullptr) return;
-      destroy(*first, depth);
-      *first = nullptr;
-    }
-    void** first = nullptr;  // the link to the highest of the new nodes
-    std::size_t depth = 0;
-  } added;
-
   void** link = &root_;
-  for (std::size_t i = index.size(); i-- > 0;) {
-    if (*link == nullptr) {
-      *link = new (region_) PointerVector(region_);
-      if (added.first == nullptr) {
-        added.first = link;
-        added.depth = i + 1;
-      }
-    }
-    link = &static_cast<PointerVector*>(*link)->reach(static_cast<std::size_t>(index[i]));
+  std::size_t levels = index.size();
+  for (; levels > 0 && *link != nullptr; --levels) {
+    auto* const node = static_cast<PointerVector*>(*link);
+    link = &node->reach(static_cast<std::size_t>(index[levels - 1]));
   }
-  added.first = nullptr;
-  return Place(*this, *link);
+  return Place(*this, levels > 0 ? addWay(index, levels, *link) : *link);
+}
+
+// Makes the nodes of the lowest levels and gives the element for the cell. They are linked to the
+// store when all of them are there: a node that leads to no cell would end iterations.
+void*& CellStore::addWay(const std::vector<int>& index, std::size_t levels, void*& link) {
+  struct Way {
+    ~Way() { destroy(top, levels); }
+    void* top = nullptr;
+    std::size_t levels = 0;
+  } way;
+  void** cell = nullptr;
+  for (; way.levels < levels; ++way.levels) {
+    std::unique_ptr<PointerVector> node(new (region_) PointerVector(region_));
+    void*& element = node->reach(static_cast<std::size_t>(index[way.levels]));
+    if (cell == nullptr) cell = &element;
+    element = way.top;
+    way.top = node.release();
+  }
+  link = std::exchange(way.top, nullptr);
+  return *cell;
 }
 
 void CellStore::Erase(const std::vector<int>& index) noexcept {

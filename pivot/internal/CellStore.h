@@ -63,6 +63,7 @@ class CellStore {
   void Destroy(std::size_t depth) noexcept;
 
  private:
+  void*& addWay(const std::vector<int>& index, std::size_t levels, void*& link);
   static void destroy(void* element, std::size_t depth) noexcept;
 
   OmMemoryRegion& region_;

@@ -11,14 +11,10 @@ void PointerVector::push_back(void* element) {
   *end_++ = element;
 }
 
-void PointerVector::lengthen(std::size_t position) {
+// Makes room for the element at the position.
+void PointerVector::grow(std::size_t position) {
   const std::size_t count = position + 1;
-  if (2 * capacity() < position) {
-    reserve(count);
-  } else if (count > capacity()) {
-    relocate(grownCapacity(capacity(), count));
-  }
-  end_ = begin_ + count;
+  relocate(2 * capacity() < position ? count : grownCapacity(capacity(), count));
 }
 
 void PointerVector::relocate(std::size_t capacity) {

@@ -36,6 +36,8 @@ class PointerVector {
   std::size_t size() const { return static_cast<std::size_t>(end_ - begin_); }
   std::size_t capacity() const { return static_cast<std::size_t>(capacityEnd_ - begin_); }
 
+  void* const* begin() const { return begin_; }
+  void* const* end() const { return end_; }
   // REQUIRES: position < size.
   void*& operator[](std::size_t position) { return begin_[position]; }
   void* operator[](std::size_t position) const { return begin_[position]; }
@@ -52,7 +54,10 @@ class PointerVector {
   // for exactly as many elements when the position is beyond twice the capacity, and by doubling
   // otherwise: a far subscript costs one allocation, subscripts in order a few.
   void*& reach(std::size_t position) {
-    if (position >= size()) lengthen(position);
+    if (position >= size()) {
+      if (position >= capacity()) grow(position);
+      end_ = begin_ + position + 1;
+    }
     return begin_[position];
   }
 
@@ -71,7 +76,7 @@ class PointerVector {
   bool allNull() const { return nextNonNull(0) == size(); }
 
  private:
-  void lengthen(std::size_t position);
+  void grow(std::size_t position);
   void relocate(std::size_t capacity);
 
   OmMemoryRegion* region_;

@@ -70,8 +70,7 @@ TEST(CellStoreGrow, ALeafDoublesForASubscriptOfTwiceItsCapacity) {
 TEST(CellStoreGrow, AnInnerNodeGrowsByTheSameRule) {
   EXPECT_EQ(shapeAfter({{0, 0}, {0, 9}}), "10/10{0:1/4{0:x} 9:1/4{0:x}}");
   EXPECT_EQ(shapeAfter({{0, 0}, {0, 8}}), "9/16{0:1/4{0:x} 8:1/4{0:x}}");
-  EXPECT_EQ(shapeAfter({{0, 0, 0}, {0, 100, 0}}),
-            "1/4{0:101/101{0:1/4{0:x} 100:1/4{0:x}}}");
+  EXPECT_EQ(shapeAfter({{0, 0, 0}, {0, 100, 0}}), "1/4{0:101/101{0:1/4{0:x} 100:1/4{0:x}}}");
 }
 
 TEST(CellStoreGrow, ANodeGrowsOnFromAnExactCapacityByTheSequence) {

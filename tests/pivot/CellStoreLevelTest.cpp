@@ -107,8 +107,7 @@ TEST(CellStoreLevel, DestroyEndsEveryCellOnceAndGivesTheNodesBack) {
   CellStore cells(region);
   for (int i = 0; i < 12; ++i) {
     const CountedText text(std::to_string(i));
-    cells.Reach({i % 2, i % 3, i / 6})
-        .Put(std::unique_ptr<OmCellText>(text.Clone(&region)));
+    cells.Reach({i % 2, i % 3, i / 6}).Put(std::unique_ptr<OmCellText>(text.Clone(&region)));
   }
   resetCounted();
   cells.Destroy(3);

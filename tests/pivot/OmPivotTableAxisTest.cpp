@@ -70,9 +70,7 @@ TEST(OmPivotTableAxis, NothingIsReorderedOrChecked) {
   EXPECT_EQ(ended(3, {{7}, {7}, {-2}}), (Axes{{7}, {7}, {-2}}));
 }
 
-TEST(OmPivotTableAxis, ATableWithoutDimensionsNeedsNoAxes) {
-  EXPECT_EQ(ended(0, {}), Axes());
-}
+TEST(OmPivotTableAxis, ATableWithoutDimensionsNeedsNoAxes) { EXPECT_EQ(ended(0, {}), Axes()); }
 
 TEST(OmPivotTableAxis, EmptyEntriesThatMakeUpTheNumberStay) {
   EXPECT_EQ(ended(2, {{0}, {-1}, {}}), (Axes{{0}, {-1}, {}}));

@@ -19,9 +19,9 @@ namespace {
 using Tables = const OmPivotTable&;
 static_assert(std::is_same_v<decltype(std::declval<Tables>().NDimensions()), std::size_t>);
 static_assert(std::is_same_v<decltype(std::declval<Tables>().Size(0)), std::size_t>);
-static_assert(std::is_same_v<decltype(std::declval<Tables>().FindDimension(
-                                 std::declval<const OmCellText&>())),
-                             int>);
+static_assert(
+    std::is_same_v<
+        decltype(std::declval<Tables>().FindDimension(std::declval<const OmCellText&>())), int>);
 static_assert(std::is_same_v<decltype(std::declval<Tables>().Dimension(0)), const OmDimension&>);
 
 std::string nameOf(const OmPivotTable& table, int which) {

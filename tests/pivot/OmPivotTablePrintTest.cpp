@@ -236,9 +236,9 @@ TEST(OmPivotTablePrintCells, ANullCellHasNoText) {
   Table table;
   addDimension(table, "A", {"a", "b"});
   table.Cell({1}, OmStringCell("second"));
-  EXPECT_EQ(printedCells(table, rootOf(table), 0, 0),
-            shown(rootOf(table)) + "\n    [0] " + shown(nullptr) + "\n    [1] " +
-                shown(table.Cell({1})) + " - second\n");
+  EXPECT_EQ(printedCells(table, rootOf(table), 0, 0), shown(rootOf(table)) + "\n    [0] " +
+                                                          shown(nullptr) + "\n    [1] " +
+                                                          shown(table.Cell({1})) + " - second\n");
 }
 
 TEST(OmPivotTablePrintCells, RepeatsTheIndexOfTheNodeForEveryLevel) {
@@ -250,11 +250,10 @@ TEST(OmPivotTablePrintCells, RepeatsTheIndexOfTheNodeForEveryLevel) {
   PointerVector* const root = rootOf(table);
   const auto* const middle = static_cast<const PointerVector*>((*root)[0]);
   const void* const leaf = (*middle)[0];
-  EXPECT_EQ(printedCells(table, root, 0, 0), shown(root) + "\n    [0] " + shown(middle) +
-                                                 "\n    [0]     [0] " + shown(leaf) +
-                                                 "\n    [0]     [0]     [0] " + shown(nullptr) +
-                                                 "\n    [1]     [1]     [1] " +
-                                                 shown(table.Cell({1, 0, 0})) + " - x\n");
+  EXPECT_EQ(printedCells(table, root, 0, 0),
+            shown(root) + "\n    [0] " + shown(middle) + "\n    [0]     [0] " + shown(leaf) +
+                "\n    [0]     [0]     [0] " + shown(nullptr) + "\n    [1]     [1]     [1] " +
+                shown(table.Cell({1, 0, 0})) + " - x\n");
 }
 
 TEST(OmPivotTablePrintCells, ANullNodeIsALine) {
@@ -274,8 +273,8 @@ TEST(OmPivotTablePrintCells, TheIndexGivenStandsAtEveryLevelOfTheFirstLine) {
   addDimension(table, "B", {"c"});
   table.Cell({0, 0}, OmStringCell("x"));
   auto* const leaf = static_cast<PointerVector*>((*rootOf(table))[0]);
-  EXPECT_EQ(printedCells(table, leaf, 1, 12),
-            "    [12] " + shown(leaf) + "\n    [0]     [0] " + shown(table.Cell({0, 0})) + " - x\n");
+  EXPECT_EQ(printedCells(table, leaf, 1, 12), "    [12] " + shown(leaf) + "\n    [0]     [0] " +
+                                                  shown(table.Cell({0, 0})) + " - x\n");
 }
 
 TEST(OmPivotTablePrintCells, ADepthBeyondTheDimensionsIsThatOfACell) {

@@ -86,10 +86,14 @@ const std::vector<String>& strings() {
 
 const std::vector<Widths>& widths() {
   static const std::vector<Widths> all{
-      {"TableCustomWidths", &OmPivotTable::getTableCustomWidths,
-       &OmPivotTable::setTableCustomWidths, {}},
-      {"TableCustomHeights", &OmPivotTable::getTableCustomHeights,
-       &OmPivotTable::setTableCustomHeights, {}},
+      {"TableCustomWidths",
+       &OmPivotTable::getTableCustomWidths,
+       &OmPivotTable::setTableCustomWidths,
+       {}},
+      {"TableCustomHeights",
+       &OmPivotTable::getTableCustomHeights,
+       &OmPivotTable::setTableCustomHeights,
+       {}},
   };
   return all;
 }
@@ -189,8 +193,7 @@ TEST_F(OmPivotTableProperties, AStringCanBeSetToItself) {
 }
 
 TEST_F(OmPivotTableProperties, CustomWidthsAndHeightsAreKeptEachForItself) {
-  expectEachKeeps(widths(),
-                  std::vector<std::vector<unsigned int>>{{1}, {}, {3, 0, UINT_MAX, 3}});
+  expectEachKeeps(widths(), std::vector<std::vector<unsigned int>>{{1}, {}, {3, 0, UINT_MAX, 3}});
 }
 
 TEST_F(OmPivotTableProperties, CustomWidthsAreCopied) {

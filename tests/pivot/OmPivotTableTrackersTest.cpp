@@ -39,7 +39,9 @@ class TrackerLog {
 class LoggedText : public OmStringCell {
  public:
   explicit LoggedText(const std::string& text) : OmStringCell(text) {}
-  LoggedText* Clone(OmMemoryRegion* region) const override { return new (region) LoggedText(*this); }
+  LoggedText* Clone(OmMemoryRegion* region) const override {
+    return new (region) LoggedText(*this);
+  }
   void setTracker(icuTracker* tracker) override {
     OmStringCell::setTracker(tracker);
     if (TrackerLog::current == nullptr) return;
@@ -118,9 +120,8 @@ TEST(OmPivotTableTrackers, ReachTheTextsInsideTheTextsThatAreThere) {
   table.AddDimension(message);
   table.Footnote(OmFootnote(&message, &message, nullptr), false);
   table.setBackendSettings(fast());
-  for (OmCellText* const text :
-       {&table.Label(), table.TemplateName(), &table.Dimension(0).Name(),
-        table.Footnotes()[0].Text(), table.Footnotes()[0].Marker()}) {
+  for (OmCellText* const text : {&table.Label(), table.TemplateName(), &table.Dimension(0).Name(),
+                                 table.Footnotes()[0].Text(), table.Footnotes()[0].Marker()}) {
     auto& inside = static_cast<OmMessageCell&>(*text);
     EXPECT_EQ(inside.Pattern().getTracker(), table.getICUTracker());
     EXPECT_EQ(inside.Arguments()[0]->getTracker(), table.getICUTracker());

@@ -1,10 +1,10 @@
 #include "external/cells/internal/ChunkReserve.h"
 
-#include <cstdlib>
 #include <new>
 #include <type_traits>
 #include <utility>
 
+#include "external/cells/internal/Pages.h"
 #include "external/cells/internal/Poison.h"
 
 namespace om::internal {
@@ -13,6 +13,11 @@ constinit ChunkReserve chunkReserve;
 static_assert(std::is_trivially_destructible_v<ChunkReserve>);
 
 void* ChunkReserve::take() noexcept {
+  if (void* const chunk = takeKept()) return chunk;
+  return takeLargePage(kChunkBytes);
+}
+
+void* ChunkReserve::takeKept() noexcept {
   const std::lock_guard lock(mutex_);
   Kept* const chunk = kept_;
   if (chunk == nullptr) return nullptr;
@@ -32,7 +37,7 @@ void ChunkReserve::giveBack(void* chunk) noexcept {
       return;
     }
   }
-  std::free(chunk);
+  giveBackLargePage(chunk);
 }
 
 std::size_t ChunkReserve::setLimit(std::size_t bytes) noexcept {
@@ -42,7 +47,7 @@ std::size_t ChunkReserve::setLimit(std::size_t bytes) noexcept {
     unpoison(chunk, kChunkBytes);
     kept_ = chunk->next;
     bytes_ -= kChunkBytes;
-    std::free(chunk);
+    giveBackLargePage(chunk);
   }
   return std::exchange(limit_, bytes);
 }

@@ -1,9 +1,9 @@
-#include "external/cells/internal/ZeroPages.h"
+#include "external/cells/internal/Pages.h"
+
+#include <cstdlib>
 
 #if defined(__unix__)
 #include <sys/mman.h>
-#else
-#include <cstdlib>
 #endif
 
 namespace om::internal {
@@ -25,5 +25,20 @@ void* takeZeroPages(std::size_t bytes) noexcept { return std::calloc(1, bytes); 
 void giveBackPages(void* pages, std::size_t) noexcept { std::free(pages); }
 
 #endif
+
+// From the C library, so that leak checkers look into it.
+void* takeLargePage(std::size_t bytes) noexcept {
+#if defined(__unix__)
+  void* const page = std::aligned_alloc(bytes, bytes);
+#else
+  void* const page = std::malloc(bytes);
+#endif
+#if defined(MADV_HUGEPAGE)
+  if (page != nullptr) madvise(page, bytes, MADV_HUGEPAGE);
+#endif
+  return page;
+}
+
+void giveBackLargePage(void* page) noexcept { std::free(page); }
 
 }  // namespace om::internal
