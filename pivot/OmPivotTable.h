@@ -19,7 +19,7 @@
 // Threads: a table with everything in it belongs to one thread at a time. Two threads may each use
 //   a table of their own.
 // Errors: OMSException for the violations named at each operation; std::bad_alloc, and what cloning
-//   a text throws. The table is then as before, but for the count of stored cells.
+//   a text throws. The table then reads as before, but for the count of stores (getNumCells).
 
 #ifndef OM_PIVOT_OMPIVOTTABLE_H_
 #define OM_PIVOT_OMPIVOTTABLE_H_
@@ -121,9 +121,10 @@ class OM_EXPORT OmPivotTable : public OmOutputPart {
   void EndTable();
 
   // ---- Cells. An index has one subscript for each dimension, all of them 0 or more.
-  // Both forms throw OMSException "OmPivotTable::Cell() -- nind != _my->_dimensions.size()" with
-  // (length of the index, NDimensions()) and "OmPivotTable::Cell() -- subscript < 0" with (the
-  // first such subscript as an unsigned 64-bit number, 0).
+  // Finding and storing throw OMSException "OmPivotTable::Cell() -- nind !=
+  // _my->_dimensions.size()" with (length of the index, NDimensions()) and
+  // "OmPivotTable::Cell() -- subscript < 0" with (the first such subscript as an unsigned 64-bit
+  // number, 0).
 
   // The text stored at the index, or null. Constant time for a given number of dimensions.
   OmCellText* Cell(const std::vector<int>& index);
@@ -140,9 +141,7 @@ class OM_EXPORT OmPivotTable : public OmOutputPart {
   bool Cell(const std::vector<int>& index, const OmCellText& text);
 
   // Destroys the cell at the index and forgets the ways of the store that led only to it. The count
-  // stays. REQUIRES: the index has a subscript for each dimension, and a cell is or was stored at
-  // an index with subscripts at least as large. (A place that the store does not reach is left
-  // alone.)
+  // stays. Nothing where the store does not reach, and for an index of another length.
   void deleteCell(const std::vector<int>& index);
 
   // How many times a cell was to be stored, also when the call failed or cleared a place.
@@ -344,7 +343,7 @@ class OM_EXPORT OmPivotTable::ICUHelper : public OmCellText::Visitor {
 template <class Text>
 class OM_EXPORT OmPivotTable::CellIterator {
  public:
-  // What the iterator stands on; both refer into the iterator and its table.
+  // What the iterator stands on. Both refer into the iterator and its table, until it moves.
   struct Entry {
     const std::vector<int>& index;
     Text& text;
@@ -368,7 +367,8 @@ class OM_EXPORT OmPivotTable::CellIterator {
     return data_ != nullptr && data_->at != nullptr ? static_cast<OmCellText*>(*data_->at)
                                                     : nullptr;
   }
-  // The subscripts of the current cell, dimension 0 first. REQUIRES: not at the end.
+  // The subscripts of the current cell, dimension 0 first, until the iterator moves.
+  // REQUIRES: not at the end.
   const std::vector<int>& Index() const;
 
   // Goes to the next stored cell. At the end it stays there.

@@ -178,7 +178,8 @@ OmVector<T>::~OmVector() {
 
 template <class T>
 void OmVector<T>::makeRoom(std::size_t count) {
-  if (capacity() - size() < count) relocate(om::internal::grownCapacity(capacity(), size() + count));
+  if (capacity() - size() >= count) return;
+  relocate(om::internal::grownCapacity(capacity(), size() + count));
 }
 
 template <class T>

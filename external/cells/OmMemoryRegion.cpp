@@ -119,9 +119,10 @@ inline OmMemoryRegion::Head* OmMemoryRegion::carve(std::uint32_t units) {
   } else if (rangesFilled_ != 0) {
     if (Head* const released = popLarge(units)) return released;
   }
-  if (static_cast<std::size_t>(bumpEnd_ - bump_) < units * kUnit) refill(units);
-  Head* const head = lay(bumpChunk_, bump_, units);
-  bump_ += units * kUnit;
+  Rest& rest = units <= kShortUnits ? shortRest_ : longRest_;
+  if (static_cast<std::size_t>(rest.end - rest.next) < units * kUnit) refill(rest, units);
+  Head* const head = lay(rest.chunk, rest.next, units);
+  rest.next += units * kUnit;
   return head;
 }
 
@@ -229,7 +230,7 @@ void OmMemoryRegion::giveBack(Head* head) noexcept {
 
 // Finds new room to carve from, once the present room is too short; what was left of it becomes a
 // released block. Small requests eat up the largest released block before a chunk is added.
-void OmMemoryRegion::refill(std::uint32_t units) {
+void OmMemoryRegion::refill(Rest& rest, std::uint32_t units) {
   Chunk* chunk;
   char* begin;
   std::size_t available;
@@ -244,11 +245,10 @@ void OmMemoryRegion::refill(std::uint32_t units) {
     begin = reinterpret_cast<char*>(chunk + 1);
     available = (chunk->bytes - kChunkHeadBytes) / kUnit;
   }
-  const auto left = static_cast<std::uint32_t>(static_cast<std::size_t>(bumpEnd_ - bump_) / kUnit);
-  if (left != 0) pushFree(lay(bumpChunk_, bump_, left));
-  bump_ = begin;
-  bumpEnd_ = begin + available * kUnit;
-  bumpChunk_ = chunk;
+  const auto left =
+      static_cast<std::uint32_t>(static_cast<std::size_t>(rest.end - rest.next) / kUnit);
+  if (left != 0) pushFree(lay(rest.chunk, rest.next, left));
+  rest = {begin, begin + available * kUnit, chunk};
 }
 
 // REQUIRES: units > kSmallUnits.

@@ -111,6 +111,14 @@ class OM_CELLS_API OmMemoryRegion {
   struct Head;
   struct FreeBlock;
 
+  // The rest of a chunk, which is being handed out.
+  struct Rest {
+    char* next = nullptr;
+    char* end = nullptr;
+    Chunk* chunk = nullptr;
+  };
+
+  static constexpr std::uint32_t kShortUnits = 16;
   static constexpr std::uint32_t kSmallUnits = 64;  // blocks to 1 KiB: one list a size
   static constexpr std::size_t kRangeLists = 21;    // to 32 KiB: four lists a doubling
 
@@ -120,7 +128,7 @@ class OM_CELLS_API OmMemoryRegion {
   void giveBack(Head* head) noexcept;
 
   Head* carve(std::uint32_t units);
-  void refill(std::uint32_t units);
+  void refill(Rest& rest, std::uint32_t units);
   Head* popLarge(std::uint32_t units) noexcept;
   Head* popRange(std::size_t list) noexcept;
   void pushFree(Head* head) noexcept;
@@ -140,9 +148,8 @@ class OM_CELLS_API OmMemoryRegion {
   std::uint32_t rangesFilled_ = 0;  // bit i: ranges_[i] is not empty
   bool reuse_ = true;
   const bool shared_;
-  char* bump_ = nullptr;  // the rest of the chunk that is being handed out
-  char* bumpEnd_ = nullptr;
-  Chunk* bumpChunk_ = nullptr;
+  Rest shortRest_;  // for blocks to 256 bytes, such as texts
+  Rest longRest_;   // for longer ones: arrays that are searched stand closer together without texts
   Chunk* chunks_ = nullptr;
   // Those of zero pages. Leak checkers do not look into them, so no other chunk hangs on them.
   Chunk* pageChunks_ = nullptr;

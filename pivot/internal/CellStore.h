@@ -36,14 +36,11 @@ class CellStore {
   // The cell at the index, or null, as for a negative subscript.
   // REQUIRES: the index has a subscript for each level.
   OmCellText* Find(const std::vector<int>& index) const {
-    const void* element = root_;
-    for (std::size_t i = index.size(); i-- > 0;) {
-      const auto* const node = static_cast<const PointerVector*>(element);
-      const auto position = static_cast<std::size_t>(index[i]);
-      if (node == nullptr || position >= node->size()) return nullptr;
-      element = (*node)[position];
+    void* element = root_;
+    for (auto subscript = index.end(); subscript != index.begin() && element != nullptr;) {
+      element = static_cast<const PointerVector*>(element)->at(*--subscript);
     }
-    return static_cast<OmCellText*>(const_cast<void*>(element));
+    return static_cast<OmCellText*>(element);
   }
 
   // Makes the way to the index. `Put` on what it gives stores a cell there.

@@ -42,6 +42,16 @@ class PointerVector {
   void*& operator[](std::size_t position) { return begin_[position]; }
   void* operator[](std::size_t position) const { return begin_[position]; }
 
+  // The element at a subscript, or null where there is none, as for negative ones.
+  void* at(int subscript) const {
+    // Taken as unsigned, a negative one is beyond every end. In bytes, so as not to divide.
+    const std::uint64_t offset =
+        std::uint64_t{static_cast<std::uint32_t>(subscript)} * sizeof(void*);
+    const std::uintptr_t end = reinterpret_cast<std::uintptr_t>(end_);
+    const bool within = offset < end - reinterpret_cast<std::uintptr_t>(begin_);
+    return within ? begin_[static_cast<std::uint32_t>(subscript)] : nullptr;
+  }
+
   // Room for exactly `count` elements, unless there is room for as many already.
   void reserve(std::size_t count) {
     if (count > capacity()) relocate(count);

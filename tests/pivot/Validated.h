@@ -43,8 +43,7 @@ struct OneDimension : OmPivotTable {
 };
 
 inline void expectOnly(const OmPivotTable& table, OmTableFinding::Kind kind,
-                       const std::string& place, long long value,
-                       const std::string& message) {
+                       const std::string& place, long long value, const std::string& message) {
   const std::vector<OmTableFinding> findings = table.validate();
   ASSERT_EQ(findings.size(), 1U);
   EXPECT_EQ(findings[0].kind, kind);

@@ -37,7 +37,7 @@ void ChunkReserve::giveBack(void* chunk) noexcept {
       return;
     }
   }
-  giveBackLargePage(chunk);
+  giveBackLargePage(chunk, kChunkBytes);
 }
 
 std::size_t ChunkReserve::setLimit(std::size_t bytes) noexcept {
@@ -47,7 +47,7 @@ std::size_t ChunkReserve::setLimit(std::size_t bytes) noexcept {
     unpoison(chunk, kChunkBytes);
     kept_ = chunk->next;
     bytes_ -= kChunkBytes;
-    giveBackLargePage(chunk);
+    giveBackLargePage(chunk, kChunkBytes);
   }
   return std::exchange(limit_, bytes);
 }

@@ -1,6 +1,9 @@
 #include "external/cells/internal/Pages.h"
 
+#include <cstdint>
 #include <cstdlib>
+
+#include "external/cells/internal/Poison.h"
 
 #if defined(__unix__)
 #include <sys/mman.h>
@@ -26,19 +29,30 @@ void giveBackPages(void* pages, std::size_t) noexcept { std::free(pages); }
 
 #endif
 
-// From the C library, so that leak checkers look into it.
+#if defined(MADV_HUGEPAGE) && !defined(OM_CELLS_POISONS)
+
+// Fresh memory, since pages that were touched before stay as they are. Where it is not aligned, the
+// ends of twice as much are given back.
 void* takeLargePage(std::size_t bytes) noexcept {
-#if defined(__unix__)
-  void* const page = std::aligned_alloc(bytes, bytes);
-#else
-  void* const page = std::malloc(bytes);
-#endif
-#if defined(MADV_HUGEPAGE)
-  if (page != nullptr) madvise(page, bytes, MADV_HUGEPAGE);
-#endif
+  auto* const taken = static_cast<char*>(takeZeroPages(2 * bytes));
+  if (taken == nullptr) return nullptr;
+  const std::size_t before = (0 - reinterpret_cast<std::uintptr_t>(taken)) % bytes;
+  char* const page = taken + before;
+  if (before != 0) giveBackPages(taken, before);
+  if (before != bytes) giveBackPages(page + bytes, bytes - before);
+  madvise(page, bytes, MADV_HUGEPAGE);
   return page;
 }
 
-void giveBackLargePage(void* page) noexcept { std::free(page); }
+void giveBackLargePage(void* page, std::size_t bytes) noexcept { giveBackPages(page, bytes); }
+
+#else
+
+// Also with the address sanitizer, whose leak checker looks only into memory of the C library.
+void* takeLargePage(std::size_t bytes) noexcept { return std::malloc(bytes); }
+
+void giveBackLargePage(void* page, std::size_t) noexcept { std::free(page); }
+
+#endif
 
 }  // namespace om::internal

@@ -16,11 +16,12 @@ void* takeZeroPages(std::size_t bytes) noexcept;
 // REQUIRES: `pages` came from takeZeroPages with the same number of bytes.
 void giveBackPages(void* pages, std::size_t bytes) noexcept;
 
-// `bytes` bytes, a power of two and their alignment, on one large page of the processor if there is
-// one to be had, or null.
+// `bytes` bytes, the size of a large page of the processor, on such a page if there is one to be
+// had; or null.
 void* takeLargePage(std::size_t bytes) noexcept;
 
-void giveBackLargePage(void* page) noexcept;
+// REQUIRES: `page` came from takeLargePage with the same number of bytes.
+void giveBackLargePage(void* page, std::size_t bytes) noexcept;
 
 }  // namespace om::internal
 
