@@ -360,7 +360,7 @@ class OM_EXPORT OmPivotTable::CellIterator {
   CellIterator(CellIterator&& other) noexcept;
   CellIterator& operator=(const CellIterator& other);
   CellIterator& operator=(CellIterator&& other) noexcept;
-  ~CellIterator();
+  ~CellIterator() { release(); }
 
   // The current cell, null at the end.
   Text* Cell() const {
@@ -389,6 +389,7 @@ class OM_EXPORT OmPivotTable::CellIterator {
   explicit CellIterator(Data* data) : data_(data) {}
 
   void findNext();
+  void release();
 
   Data* data_ = nullptr;  // null in an iterator that was made without a table
 };

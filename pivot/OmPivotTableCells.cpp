@@ -131,7 +131,7 @@ OmPivotTable::CellIterator<Text>& OmPivotTable::CellIterator<Text>::operator=(
 }
 
 template <class Text>
-OmPivotTable::CellIterator<Text>::~CellIterator() {
+void OmPivotTable::CellIterator<Text>::release() {
   delete iterationOf(data_);
 }
 

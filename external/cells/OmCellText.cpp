@@ -14,7 +14,7 @@ class OmCellText::Extras final : public OmMemoryRegion::Finalizer {
   explicit Extras(OmMemoryRegion* region) {
     if (region != nullptr) region->AtEnd(*this);
   }
-  explicit Extras(const Extras& other)
+  Extras(const Extras& other)
       : meta(other.meta ? std::make_unique<const OmCellMetaData>(*other.meta) : nullptr),
         footnotes(other.footnotes) {}
   ~Extras() override = default;
