@@ -170,7 +170,7 @@ TEST(OmPivotTableValidate, FindsTheSubscriptThatEqualsTheSize) {
 
 TEST(OmPivotTableValidate, FindsACategoryThatWasLeftWithoutASubscript) {
   OneDimension table;
-  table.add(table.root(), kMinus1);
+  table.add(table.root(), ~0ULL);
   EXPECT_EQ(messagesOf(table), (Messages{"dimension 0, node 0: the subscript -1 is beyond the size "
                                          "of the dimension",
                                          "dimension 0: no category has the subscript 0"}));

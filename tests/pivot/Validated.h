@@ -37,7 +37,7 @@ struct OneDimension : OmPivotTable {
     return Dimension(0).AddNewChild(parent, OmStringCell("c"), subscript, false);
   }
   OmDimension::Node addGroup(const OmDimension::Node& parent) {
-    return Dimension(0).AddNewChild(parent, OmStringCell("g"), kMinus1, true);
+    return Dimension(0).AddNewChild(parent, OmStringCell("g"), ~0ULL, true);
   }
   OmDimension::Node root() { return Dimension(0).Root(); }
 };
