@@ -65,14 +65,12 @@ bool OmPivotTable::Cell(const std::vector<int>& index, const OmCellText* text) {
   if (index.size() != dimensions || dimensions == 0) refuseLength(index, dimensions);
   checkSigns(index);
 
-  // Cloned before anything changes: the text may be the very cell that it replaces.
+  // Ready before anything changes: it may fail, and the text may be the very cell that it replaces.
   std::unique_ptr<OmCellText> cell(text != nullptr ? text->Clone(&_my->region) : nullptr);
+  if (cell != nullptr) setHelper(*cell);
   om::internal::CellStore::Place place = _my->cells.Reach(index);
-  if (cell != nullptr) {
-    setHelper(*cell);
-    const OmCellText* const former = place.Cell();
-    if (former != nullptr && former->hasMeta()) cell->setMeta(former->getMeta());
-  }
+  const OmCellText* const former = place.Cell();
+  if (cell != nullptr && former != nullptr && former->hasMeta()) cell->setMeta(former->getMeta());
   place.Put(std::move(cell));
   return true;
 }

@@ -23,7 +23,7 @@ struct OmMemoryRegion::Chunk {
   Chunk* previous;
   OmMemoryRegion* region;
   std::size_t bytes;
-  std::size_t pages;  // 1: it came from ZeroPages, 0: from malloc
+  std::size_t pages;  // 1: it came from takeZeroPages, 0: from malloc or the reserve
 };
 
 // Stands before every block. A block that is a chunk of its own has 0 units.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -295,6 +296,28 @@ TEST(OmPivotTableTrackers, OutliveAllTextsOfTheTable) {
     EXPECT_EQ(Witness::died, 11) << unicode;
     EXPECT_EQ(Witness::diedBeforeTheirTracker, 11) << unicode;
   }
+}
+
+class Refusing : public OmStringCell {
+ public:
+  Refusing() : OmStringCell("refusing") {}
+  Refusing* Clone(OmMemoryRegion* region) const override { return new (region) Refusing(*this); }
+  void setTracker(icuTracker*) override { throw std::runtime_error("refused"); }
+
+ private:
+  Refusing(const Refusing&) = default;
+};
+
+// A way in the store that leads to no cell would end the iteration at once.
+TEST(OmPivotTableTrackers, ATextThatRefusesItsTrackerLeavesNothingBehindInTheStore) {
+  Table table;
+  table.setBackendSettings(fast());
+  for (const char* const name : {"rows", "columns"}) table.AddDimension(OmStringCell(name));
+  EXPECT_THROW(table.Cell({0, 0}, Refusing()), std::runtime_error);
+  table.Cell({0, 1}, OmStringCell("stored"));
+  ASSERT_NE(table.FirstCell().Cell(), nullptr);
+  EXPECT_EQ(std::string(*table.FirstCell().Cell()), "stored");
+  EXPECT_EQ(table.getNumCells(), 2);
 }
 
 }  // namespace
