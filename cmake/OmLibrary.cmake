@@ -6,6 +6,7 @@ set(OM_HEADERS
   backend/tables/ListTree.h backend/tables/OmFootnote.h backend/tables/OmVector.h
   backend/tables/PuppetVector.h backend/tables/om/VectorTree.h
   dimensions/OmDimension.h dimensions/OmDimensionNode.h
+  display/OmDisplayColumnHeading.h display/OmDisplayLayerHeading.h display/OmDisplayRowHeading.h
   output/OmHeading.h output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h
   output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
   pivot/FormatArea.h pivot/OmPivotTable.h pivot/OmTableFinding.h)
@@ -13,8 +14,12 @@ list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
 
 add_library(om-objects OBJECT
   backend/Assert.cpp backend/LibraryEntry.cpp backend/OMSException.cpp
-  backend/tables/OmFootnote.cpp
+  backend/tables/MultiBase.cpp backend/tables/OmFootnote.cpp
   dimensions/OmDimension.cpp dimensions/OmDimensionEdit.cpp dimensions/OmDimensionNode.cpp
+  display/OmDisplayColumnHeading.cpp display/OmDisplayLayerHeading.cpp
+  display/OmDisplayRowHeading.cpp display/internal/DenseScan.cpp
+  display/internal/EmptinessScan.cpp display/internal/OmDimensionLayout.cpp
+  display/internal/OmDisplayAxisData.cpp display/internal/OmDisplayLayerData.cpp
   output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
   output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp
   pivot/FormatArea.cpp pivot/OmPivotTable.cpp pivot/OmPivotTableCells.cpp

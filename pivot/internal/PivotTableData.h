@@ -78,7 +78,7 @@ struct OmPivotTable::Data {
 
 namespace om::internal {
 
-// The way for tests into what a table does not show.
+// The way for the headings of a table, and for tests, into what it does not show.
 struct PivotTableInternals {
   using Data = OmPivotTable::Data;
 
