@@ -19,6 +19,7 @@ add_library(om-objects OBJECT
   display/OmDisplayColumnHeading.cpp display/OmDisplayLayerHeading.cpp
   display/OmDisplayRowHeading.cpp display/internal/DenseScan.cpp
   display/internal/EmptinessScan.cpp display/internal/OmDimensionLayout.cpp
+  display/internal/SparseScan.cpp
   display/internal/OmDisplayAxisData.cpp display/internal/OmDisplayLayerData.cpp
   output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
   output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp

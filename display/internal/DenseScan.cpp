@@ -58,18 +58,6 @@ void DenseScan::descend() {
   }
 }
 
-std::vector<unsigned long long> DenseScan::operator()() {
-  std::vector<unsigned long long> positions;
-  if (start_ == nullptr) return positions;
-  MultiBase::Digits digits(axis_.size());
-  for (unsigned long long position = 0; position != axis_.count(); ++position) {
-    place(digits);
-    if (find(start_, startLevels_)) positions.push_back(position);
-    increment(digits);
-  }
-  return positions;
-}
-
 // A digit without a leaf leaves the subscript of the position before.
 void DenseScan::place(const MultiBase::Digits& digits) {
   for (std::size_t k = 0; k < digits.size(); ++k) {
@@ -86,44 +74,56 @@ void DenseScan::increment(MultiBase::Digits& digits) const {
   }
 }
 
-// Whether there is a cell below the element, which is not null. Calls itself, by way of findAny,
-// once for each level at most.
-bool DenseScan::find(const void* element, std::size_t levels) {
-  while (levels != 0) {
+// Whether there is a cell at the subscripts of the last cell, where any will do. A search that
+// fails there begins anew with the first subscripts: in them it finds the cells of most positions,
+// and comes upon nodes that are in the cache.
+bool DenseScan::isBelowLast() const {
+  const void* element = start_;
+  for (std::size_t i = startLevels_; i != 0 && element != nullptr;) {
+    element = static_cast<const PointerVector*>(element)->at(levels_[--i].subscript);
+  }
+  return element != nullptr;
+}
+
+// Whether there is a cell below the element, which is not null.
+inline bool DenseScan::find(const void* element, std::size_t levels) {
+  for (; levels != 0; --levels) {
     const auto& node = *static_cast<const PointerVector*>(element);
-    Level& level = levels_[--levels];
-    if (level.any) return findAny(node, levels, level);
+    Level& level = levels_[levels - 1];
+    if (level.any) return findAny(node, levels - 1, level);
     element = node.at(level.subscript);
     if (element == nullptr) return false;
   }
   return true;
 }
 
+// Calls itself, by way of find, once for each level at most.
 bool DenseScan::findAny(const PointerVector& node, std::size_t levels, Level& level) {
-  const int last = level.subscript;
-  const auto findAt = [&](int subscript) {
-    const void* const element = node.at(subscript);
+  const auto findAt = [&](int subscript, const void* element) {
     if (element == nullptr || !find(element, levels)) return false;
     level.subscript = subscript;
     return true;
   };
-  const auto findIn = [&](std::size_t begin, std::size_t end) {
-    while (begin < end) {
-      begin = node.nextNonNull(begin);
-      if (begin < end && findAt(static_cast<int>(begin))) return true;
-      ++begin;
-    }
-    return false;
-  };
-
-  if (findAt(last)) return true;
   if (!level.listed.empty()) {
     return std::any_of(level.listed.begin(), level.listed.end(),
-                       [&](int subscript) { return subscript != last && findAt(subscript); });
+                       [&](int subscript) { return findAt(subscript, node.at(subscript)); });
   }
-  const auto behind = static_cast<std::size_t>(last) + 1;
   const std::size_t end = std::min(level.below, node.size());
-  return findIn(behind, end) || findIn(0, std::min(behind - 1, end));
+  std::size_t i = levels == 0 ? node.nextNonNull(0) : 0;  // passes the nulls of a leaf quickly
+  while (i < end && !findAt(static_cast<int>(i), node[i])) ++i;
+  return i < end;
+}
+
+std::vector<unsigned long long> DenseScan::operator()() {
+  std::vector<unsigned long long> positions;
+  if (start_ == nullptr) return positions;
+  MultiBase::Digits digits(axis_.size());
+  for (unsigned long long position = 0; position != axis_.count(); ++position) {
+    place(digits);
+    if (isBelowLast() || find(start_, startLevels_)) positions.push_back(position);
+    increment(digits);
+  }
+  return positions;
 }
 
 }  // namespace om::internal

@@ -44,6 +44,7 @@ class DenseScan {
   void descend();
   void place(const MultiBase::Digits& digits);
   void increment(MultiBase::Digits& digits) const;
+  bool isBelowLast() const;
   bool find(const void* element, std::size_t levels);
   bool findAny(const PointerVector& node, std::size_t levels, Level& level);
 

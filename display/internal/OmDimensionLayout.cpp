@@ -1,11 +1,19 @@
 #include "display/internal/OmDimensionLayout.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 
 #include "display/internal/LiveRecords.h"
 
 namespace om::internal {
+
+namespace {
+
+// Beyond that many leaves or subscripts, memory is taken only as it is needed.
+constexpr std::size_t kMostExpected = std::size_t{1} << 20;
+
+}  // namespace
 
 // Goes through the tree and makes the entries, those of one node's children side by side.
 class OmDimensionLayout::Walk {
@@ -17,9 +25,9 @@ class OmDimensionLayout::Walk {
   Entry* operator()() {
     Entry* const root = entries(1);
     OmDimension::Tree::Walk(dimension_.Root(), [&](const ConstNode& node) {
-      const std::size_t depth = node.Depth();
-      ways_.erase(ways_.begin() + static_cast<std::ptrdiff_t>(depth), ways_.end());
-      return depth == 0 ? enter(node, root, nullptr, true) : enterBelow(node, ways_.back());
+      if (node.Depth() == 0) return enterRoot(root, node);
+      while (ways_.size() > node.Depth()) ways_.pop_back();
+      return enterBelow(node, ways_.back());
     });
     return root;
   }
@@ -28,26 +36,62 @@ class OmDimensionLayout::Walk {
   // A group on the way down to where the walk is.
   struct Way {
     Entry* group;
-    Entry* next;    // the entry of its next child
-    bool followed;  // the links up from the group are those of the way
+    Entry* next;                   // the entry of its next child
+    bool followed;                 // the links up from the group are those of the way
+    ConstNode** labels = nullptr;  // down to the group; made for its first leaf
   };
 
   bool enterBelow(const ConstNode& node, Way& way) {
-    const bool followed = way.followed && node.Record()->parent == way.group->node.Record();
-    return enter(node, way.next++, way.group, followed);
-  }
-
-  bool enter(const ConstNode& node, Entry* entry, Entry* above, bool followed) {
-    make(entry, node, above);
+    Entry* const entry = way.next++;
     if (node->IsGroup()) {
-      leaves_.makeRoom(node.ChildCount());
-      ways_.push_back({entry, entries(node.ChildCount()), followed});
-      return true;
+      const bool followed = way.followed && leadsTo(way, node);
+      make(entry, node, way.group);
+      return enterGroup(entry, followed);
     }
-    leaves_.push_back(
-        {followed ? entry : pathByLinks(node), nullptr, static_cast<int>(node->Subscript()), 0});
+    if (!way.followed || !leadsTo(way, node)) {
+      Entry* const own = pathByLinks(node);
+      add(own, labelsOf(own->above));
+      return false;
+    }
+    make(entry, node, way.group);
+    if (way.labels == nullptr) way.labels = labelsOf(way.group);
+    add(entry, way.labels);
     return false;
   }
+
+  bool enterRoot(Entry* root, const ConstNode& node) {
+    make(root, node, nullptr);
+    if (node->IsGroup()) return enterGroup(root, true);
+    add(root, nullptr);
+    return false;
+  }
+
+  static bool leadsTo(const Way& way, const ConstNode& node) {
+    return node.Record()->parent == way.group->node.Record();
+  }
+
+  bool enterGroup(Entry* group, bool followed) {
+    ways_.push_back({group, entries(group->node.ChildCount()), followed});
+    return true;
+  }
+
+  void add(Entry* leaf, ConstNode** labels) {
+    constexpr std::uint32_t kMost = std::numeric_limits<std::uint16_t>::max();
+    const auto above = static_cast<std::uint16_t>(std::min(labelsTo(leaf->above), kMost));
+    const auto shown = static_cast<std::uint16_t>(std::min(leaf->labels, kMost));
+    leaves_.push_back({leaf, labels, static_cast<int>(leaf->node->Subscript()), above, shown});
+  }
+
+  ConstNode** labelsOf(Entry* group) {
+    const std::uint32_t count = labelsTo(group);
+    auto** const labels = static_cast<ConstNode**>(region_.Allocate(count * sizeof(ConstNode*)));
+    for (Entry* entry = group; entry != nullptr; entry = entry->above) {
+      if (entry->isLabel) labels[entry->labels - 1] = &entry->node;
+    }
+    return labels;
+  }
+
+  static std::uint32_t labelsTo(const Entry* entry) { return entry != nullptr ? entry->labels : 0; }
 
   // A path of its own for a leaf, or a group above it, with a link that is not that of the way.
   Entry* pathByLinks(const ConstNode& leaf) {
@@ -67,12 +111,17 @@ class OmDimensionLayout::Walk {
     return above;
   }
 
+  // Member by member: compilers copy a whole entry in pieces that overlap, which takes long.
   static void make(Entry* entry, const ConstNode& node, Entry* above) {
+    const OmDimensionNode& value = *node;
     const bool closed =
-        (above != nullptr && above->closed) || (node->IsGroup() && node->HideLabels());
-    const bool isLabel = !closed && !node->Hide();
-    const std::uint32_t labels = (above != nullptr ? above->labels : 0) + (isLabel ? 1 : 0);
-    *entry = {node, above, labels, isLabel, closed};
+        (above != nullptr && above->closed) || (value.IsGroup() && value.HideLabels());
+    const bool isLabel = !closed && !value.Hide();
+    entry->node = node;
+    entry->above = above;
+    entry->labels = labelsTo(above) + (isLabel ? 1 : 0);
+    entry->isLabel = isLabel;
+    entry->closed = closed;
   }
 
   Entry* entries(std::size_t count) {
@@ -88,29 +137,15 @@ class OmDimensionLayout::Walk {
 
 OmDimensionLayout::OmDimensionLayout(OmMemoryRegion& region, const OmDimension& dimension)
     : leaves_(&region) {
-  const std::int32_t categories = dimension.NumCategories();
-  if (categories <= 0) return;
+  if (dimension.NumCategories() <= 0) return;
+  const auto categories = static_cast<std::size_t>(dimension.NumCategories());
+  // As many as there are leaves, unless Delete has counted up to a far subscript.
+  leaves_.reserve(std::min(categories, kMostExpected));
   root_ = Walk(region, dimension, leaves_)();
-  enterLabels(region);
-  enterSubscripts(region, static_cast<std::size_t>(categories));
-}
-
-void OmDimensionLayout::enterLabels(OmMemoryRegion& region) {
-  std::size_t total = 0;
-  for (Leaf& leaf : leaves_) {
-    constexpr std::uint32_t kMost = std::numeric_limits<std::uint16_t>::max();
-    leaf.visibleDepth = static_cast<std::uint16_t>(std::min(leaf.category->labels, kMost));
+  for (const Leaf& leaf : leaves_) {
     maxVisibleDepth_ = std::max<int>(maxVisibleDepth_, leaf.visibleDepth);
-    total += leaf.category->labels;
   }
-  auto** labels = static_cast<ConstNode**>(region.Allocate(total * sizeof(ConstNode*)));
-  for (Leaf& leaf : leaves_) {
-    leaf.labels = labels;
-    labels += leaf.category->labels;
-    for (Entry* entry = leaf.category; entry != nullptr; entry = entry->above) {
-      if (entry->isLabel) leaf.labels[entry->labels - 1] = &entry->node;
-    }
-  }
+  enterSubscripts(region, categories);
 }
 
 void OmDimensionLayout::enterSubscripts(OmMemoryRegion& region, std::size_t categories) {
@@ -118,8 +153,10 @@ void OmDimensionLayout::enterSubscripts(OmMemoryRegion& region, std::size_t cate
   for (const Leaf& leaf : leaves_) largest = std::max<std::int64_t>(largest, leaf.subscript);
   const std::size_t count = std::max(categories, static_cast<std::size_t>(largest + 1));
 
-  auto* const positions =
-      static_cast<std::uint32_t*>(region.AllocateZeroed(count * sizeof(std::uint32_t)));
+  const std::size_t bytes = count * sizeof(std::uint32_t);
+  auto* const positions = static_cast<std::uint32_t*>(
+      count <= kMostExpected ? std::memset(region.Allocate(bytes), 0, bytes)
+                             : region.AllocateZeroed(bytes));
   std::size_t distinct = 0;
   std::uint32_t position = 0;
   for (const Leaf& leaf : leaves_) {

@@ -6,8 +6,9 @@
 //   leaf 0 | category, labels, subscript |  ->  entry A ---above---+
 //   leaf 1 | category, labels, subscript |  ->  entry B ---above---+--> entry group --> entry root
 //
-// The labels of a leaf, as a column or row heading shows them, are an array of their own, from the
-// top down: the nodes of its path that are not hidden, up to the first group with hidden labels.
+// The labels of a leaf, as a column or row heading shows them, are from the top down the nodes of
+// its path that are not hidden, up to the first group with hidden labels. Those above the leaf are
+// in an array that the leaves of one group share.
 //
 // Paths follow the parent links of the tree as they stand, also where OmDimension::Delete has left
 // them stale, so that they may show a sibling of the true parent. A link is not followed when it
@@ -69,7 +70,8 @@ class OmDimensionLayout {
   // The label in a row of the leaf's block, or null.
   ConstNode* label(std::size_t position, std::size_t row) const {
     const Leaf& leaf = leaves_[position];
-    return row < leaf.visibleDepth ? leaf.labels[row] : nullptr;
+    if (row < leaf.labelsAbove) return leaf.labels[row];
+    return row < leaf.visibleDepth ? &leaf.category->node : nullptr;
   }
   // The leaf's coordinate in cell indexes. Negative when no cell can have it.
   int positionToSubscript(std::size_t position) const { return leaves_[position].subscript; }
@@ -104,10 +106,10 @@ class OmDimensionLayout {
     Entry* category;
     ConstNode** labels;
     int subscript;
+    std::uint16_t labelsAbove;  // the leaf itself not counted
     std::uint16_t visibleDepth;
   };
 
-  void enterLabels(OmMemoryRegion& region);
   void enterSubscripts(OmMemoryRegion& region, std::size_t categories);
 
   OmVector<Leaf> leaves_;

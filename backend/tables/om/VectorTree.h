@@ -28,6 +28,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -364,20 +365,22 @@ AnyNode OmVectorTree<T>::Counterpart(const ConstNode& node, const AnyNode& other
 template <class T>
 template <class AnyNode, class Visit>
 void OmVectorTree<T>::Walk(const AnyNode& top, const Visit& visit) {
-  std::vector<std::pair<AnyNode, AnyNode>> levels;  // on each level, the next node and the end
-  const auto enter = [&](const AnyNode& node) {
-    if (visit(node)) levels.emplace_back(node.FirstChild(), node.ChildrenEnd());
-  };
-  enter(top);
-  while (!levels.empty()) {
-    auto& [next, end] = levels.back();
-    if (next == end) {
-      levels.pop_back();
-      continue;
+  if (!visit(top)) return;
+  std::vector<std::pair<AnyNode, AnyNode>> above;  // on each level, the next node and the end
+  AnyNode next = top.FirstChild();
+  AnyNode end = top.ChildrenEnd();
+  for (;;) {
+    while (next != end) {
+      const AnyNode node = next;
+      ++next;
+      if (!visit(node)) continue;
+      above.emplace_back(next, end);
+      next = node.FirstChild();
+      end = node.ChildrenEnd();
     }
-    const AnyNode node = next;
-    ++next;
-    enter(node);
+    if (above.empty()) return;
+    std::tie(next, end) = above.back();
+    above.pop_back();
   }
 }
 
