@@ -1,0 +1,148 @@
+#include "render/TableView.h"
+
+#include <deque>
+#include <utility>
+
+#include "pivot/OmPivotTable.h"
+#include "render/internal/AxisSubscripts.h"
+
+namespace om::render {
+
+namespace {
+
+using Entry = OmDisplayLayerHeading::ConstNode;
+using Path = std::vector<const OmDimensionNode*>;
+
+std::vector<int> layerIndexOf(const OmDisplayLayerHeading& layers) {
+  std::vector<int> index(layers.Table().NDimensions());
+  layers.Fill(index);
+  return index;
+}
+
+// Splits paths that stand one behind the other, each from its root down; a category that is its own
+// root has none among them.
+std::vector<Path> splitPaths(const std::vector<Entry*>& entries,
+                             const std::deque<Entry*>& categories) {
+  std::vector<Path> paths;
+  auto next = entries.begin();
+  for (const Entry* const category : categories) {
+    Path& path = paths.emplace_back();
+    if (category == nullptr) continue;
+    if (category->Depth() == 0) {
+      path.push_back(&**category);
+      continue;
+    }
+    const auto end = next + static_cast<std::ptrdiff_t>(category->Depth()) + 1;
+    for (; next != end; ++next) path.push_back(&***next);
+  }
+  return paths;
+}
+
+}  // namespace
+
+class TableView::Subscripts {
+ public:
+  explicit Subscripts(const TableView& view)
+      : rows_(view.table(), OmDisplayRowHeading(view.layers_, false, false),
+              view.options_.skipEmptyRows ? &view.rowHeading_.getNonEmptyRows() : nullptr),
+        columns_(
+            view.table(), OmDisplayColumnHeading(view.layers_, false),
+            view.options_.skipEmptyColumns ? &view.columnHeading_.getNonEmptyColumns() : nullptr) {}
+
+  std::optional<Place> placeOf(const std::vector<int>& index) const {
+    const auto row = rows_.placeOf(index);
+    const auto column = columns_.placeOf(index);
+    if (!row || !column) return std::nullopt;
+    return Place{*row, *column};
+  }
+
+ private:
+  internal::AxisSubscripts rows_;
+  internal::AxisSubscripts columns_;
+};
+
+TableView::TableView(OmDisplayLayerHeading& layers, const ViewOptions& options)
+    : layers_(layers),
+      options_(options),
+      layer_(layers.getLayer()),
+      layerIndex_(layerIndexOf(layers)),
+      columnHeading_(layers, options.skipEmptyColumns),
+      rowHeading_(layers, options.skipEmptyRows, options.namesInCorner),
+      columnGrid_(columnHeading_, options.columnSpans),
+      rowGrid_(rowHeading_, options.rowSpans),
+      index_(layerIndex_) {
+  enterLayer();
+  enterCorner();
+}
+
+TableView::~TableView() = default;
+
+void TableView::enterLayer() {
+  for (int k = 0; k < layers_.NDimensions(); ++k) {
+    Entry* dimension = nullptr;
+    Entry* category = nullptr;
+    layers_.DimCatNodes(k, dimension, category);
+    if (category == nullptr) continue;
+    LayerLabel& label = layerLabels_.emplace_back();
+    label.dimension = &**dimension;
+    label.category = &**category;
+    for (const Entry* const entry : layers_.Nodes(k)) {
+      if (entry != nullptr) label.path.push_back(&**entry);
+    }
+  }
+}
+
+// A text stands over the empty places behind it.
+void TableView::enterCorner() {
+  const std::vector<const OmCellText*> texts = rowHeading_.CornerText();
+  for (std::size_t i = 0; i < rowGrid_.levels(); ++i) {
+    const OmCellText* const text = i < texts.size() ? texts[i] : nullptr;
+    if (corner_.empty() || text != nullptr) corner_.push_back({i, i, text});
+    corner_.back().end = i + 1;
+  }
+}
+
+void TableView::indexOf(const Place& place, std::vector<int>& index) const {
+  index = layerIndex_;
+  rowHeading_.Fill(index, static_cast<int>(place.row));
+  columnHeading_.Fill(index, static_cast<int>(place.column));
+}
+
+const OmCellText* TableView::cell(const Place& place) const {
+  indexOf(place, index_);
+  return table().Cell(index_);
+}
+
+void TableView::row(std::uint64_t row, std::vector<const OmCellText*>& cells) const {
+  index_ = layerIndex_;
+  rowHeading_.Fill(index_, static_cast<int>(row));
+  cells.resize(columnCount());
+  for (std::size_t column = 0; column < cells.size(); ++column) {
+    columnHeading_.Fill(index_, static_cast<int>(column));
+    cells[column] = table().Cell(index_);
+  }
+}
+
+std::optional<TableView::Place> TableView::placeOf(const std::vector<int>& index) const {
+  if (index.size() != layerIndex_.size()) return std::nullopt;
+  if (subscripts_ == nullptr) subscripts_ = std::make_unique<Subscripts>(*this);
+  const std::optional<Place> place = subscripts_->placeOf(index);
+  if (!place) return std::nullopt;
+  // The subscripts of the layer must be the same, too, and of dimensions that are on no axis.
+  indexOf(*place, index_);
+  return index_ == index ? place : std::nullopt;
+}
+
+std::vector<Path> TableView::rowPaths(std::uint64_t row) const {
+  std::vector<Entry*> entries;
+  rowHeading_.DimAllNodes(static_cast<int>(row), entries);
+  return splitPaths(entries, rowHeading_.RowCategories(static_cast<int>(row)));
+}
+
+std::vector<Path> TableView::columnPaths(std::uint64_t column) const {
+  std::vector<Entry*> entries;
+  columnHeading_.DimAllNodes(static_cast<int>(column), entries);
+  return splitPaths(entries, columnHeading_.ColumnCategories(static_cast<int>(column)));
+}
+
+}  // namespace om::render
