@@ -6,8 +6,9 @@ set(OM_HEADERS
   backend/tables/ListTree.h backend/tables/OmFootnote.h backend/tables/OmVector.h
   backend/tables/PuppetVector.h backend/tables/om/VectorTree.h
   dimensions/OmDimension.h dimensions/OmDimensionNode.h
-  output/OmHeading.h output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h
-  output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
+  output/OmAnswerTree.h output/OmChart.h output/OmHeading.h output/OmInteractive.h output/OmModel.h
+  output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h output/OmPageTitle.h
+  output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
   pivot/FormatArea.h pivot/OmPivotTable.h pivot/OmTableFinding.h)
 list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
 
@@ -15,8 +16,10 @@ add_library(om-objects OBJECT
   backend/Assert.cpp backend/LibraryEntry.cpp backend/OMSException.cpp
   backend/tables/OmFootnote.cpp
   dimensions/OmDimension.cpp dimensions/OmDimensionEdit.cpp dimensions/OmDimensionNode.cpp
-  output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
-  output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp
+  output/OmAnswerTree.cpp output/OmChart.cpp output/OmChartReading.cpp output/OmHeading.cpp
+  output/OmInteractive.cpp output/OmModel.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp
+  output/OmOutputWalker.cpp output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp
+  output/OmUtility.cpp output/internal/LabelEncoding.cpp output/internal/MapInfo.cpp
   pivot/FormatArea.cpp pivot/OmPivotTable.cpp pivot/OmPivotTableCells.cpp
   pivot/OmPivotTableFootnotes.cpp pivot/OmPivotTablePrint.cpp pivot/OmPivotTableProperties.cpp
   pivot/OmPivotTableSettings.cpp pivot/OmPivotTableValidate.cpp pivot/OmTableFinding.cpp
