@@ -7,8 +7,9 @@ set(OM_HEADERS
   backend/tables/PuppetVector.h backend/tables/om/VectorTree.h
   dimensions/OmDimension.h dimensions/OmDimensionNode.h
   display/OmDisplayColumnHeading.h display/OmDisplayLayerHeading.h display/OmDisplayRowHeading.h
-  output/OmHeading.h output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h
-  output/OmPageTitle.h output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
+  output/OmAnswerTree.h output/OmChart.h output/OmHeading.h output/OmInteractive.h output/OmModel.h
+  output/OmOutputPart.h output/OmOutputTree.h output/OmOutputWalker.h output/OmPageTitle.h
+  output/OmProcedure.h output/OmTextBlock.h output/OmUtility.h
   pivot/FormatArea.h pivot/OmPivotTable.h pivot/OmTableFinding.h)
 list(TRANSFORM OM_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/)
 
@@ -19,10 +20,12 @@ add_library(om-objects OBJECT
   display/OmDisplayColumnHeading.cpp display/OmDisplayLayerHeading.cpp
   display/OmDisplayRowHeading.cpp display/internal/DenseScan.cpp
   display/internal/EmptinessScan.cpp display/internal/OmDimensionLayout.cpp
-  display/internal/SparseScan.cpp
   display/internal/OmDisplayAxisData.cpp display/internal/OmDisplayLayerData.cpp
-  output/OmHeading.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp output/OmOutputWalker.cpp
-  output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp output/OmUtility.cpp
+  display/internal/SparseScan.cpp
+  output/OmAnswerTree.cpp output/OmChart.cpp output/OmChartReading.cpp output/OmHeading.cpp
+  output/OmInteractive.cpp output/OmModel.cpp output/OmOutputPart.cpp output/OmOutputTree.cpp
+  output/OmOutputWalker.cpp output/OmPageTitle.cpp output/OmProcedure.cpp output/OmTextBlock.cpp
+  output/OmUtility.cpp output/internal/LabelEncoding.cpp output/internal/MapInfo.cpp
   pivot/FormatArea.cpp pivot/OmPivotTable.cpp pivot/OmPivotTableCells.cpp
   pivot/OmPivotTableFootnotes.cpp pivot/OmPivotTablePrint.cpp pivot/OmPivotTableProperties.cpp
   pivot/OmPivotTableSettings.cpp pivot/OmPivotTableValidate.cpp pivot/OmTableFinding.cpp

@@ -4,6 +4,7 @@
 
 #include "output/OmPageTitle.h"
 #include "output/OmProcedure.h"
+#include "output/internal/SharedRecord.h"
 
 OmOutputPart::OmOutputPart(const OmCellText& label) : label_(label.Clone(nullptr)) {}
 
@@ -11,11 +12,27 @@ OmOutputPart::OmOutputPart(const OmOutputPart&) = default;
 
 OmOutputPart& OmOutputPart::operator=(const OmOutputPart&) = default;
 
+OmOutputPart::OmOutputPart(const OmOutputPart& other, om::internal::SharedRecord& record)
+    : label_(other.label_),
+      clientData_(other.clientData_),
+      visible_(other.visible_),
+      expanded_(other.expanded_),
+      ownsLabel_(false) {
+  if (other.ownsLabel_) {
+    record.keepLabel(other.label_);
+    other.ownsLabel_ = false;
+  }
+  record.addPart();
+}
+
 OmOutputPart::~OmOutputPart() { adoptLabel(nullptr); }
 
 void OmOutputPart::Label(const OmCellText& label) { adoptLabel(label.Clone(nullptr)); }
 
-void OmOutputPart::adoptLabel(OmCellText* label) noexcept { delete std::exchange(label_, label); }
+void OmOutputPart::adoptLabel(OmCellText* label) noexcept {
+  OmCellText* const former = std::exchange(label_, label);
+  if (std::exchange(ownsLabel_, true)) delete former;
+}
 
 OmOutputPart::Visitor::~Visitor() = default;
 

@@ -13,7 +13,8 @@
 // Copies: copying a part is deliberately shallow, also by assignment: both then share the label
 //   (and what the kind says that it shares), and each of them would delete it. Whoever copies a
 //   part sees to it that only one of the two is ever destroyed. What a part shared or owned before
-//   it was assigned to is not deleted.
+//   it was assigned to is not deleted. Charts, models, interactive outputs and answer trees count
+//   the parts that share, so all copies of these may be destroyed; they cannot be assigned.
 // Threads: a part belongs to one thread at a time.
 
 #ifndef OM_OUTPUT_OMOUTPUTPART_H_
@@ -31,6 +32,12 @@ class OmPageTitle;
 class OmPivotTable;
 class OmProcedure;
 class OmTextBlock;
+
+namespace om::internal {
+
+class SharedRecord;
+
+}  // namespace om::internal
 
 class OM_EXPORT OmOutputPart {
  public:
@@ -61,6 +68,9 @@ class OM_EXPORT OmOutputPart {
   explicit OmOutputPart(const OmCellText& label);
   OmOutputPart(const OmOutputPart&);
   OmOutputPart& operator=(const OmOutputPart&);
+  // A copy that shares `record` with its source. The record keeps the label, for all the parts that
+  // show it. Throws std::bad_alloc; the source is then as before.
+  OmOutputPart(const OmOutputPart& other, om::internal::SharedRecord& record);
 
   // Deletes the label and takes over another one, which is on the default heap.
   void adoptLabel(OmCellText* label) noexcept;
@@ -70,6 +80,7 @@ class OM_EXPORT OmOutputPart {
   void* clientData_ = nullptr;
   bool visible_ = true;
   bool expanded_ = true;
+  mutable bool ownsLabel_ = true;  // false while a record that copies share keeps the label
 };
 
 // The order of the visits is part of the library's binary interface. (One toolchain lays adjacent

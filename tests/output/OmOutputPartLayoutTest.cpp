@@ -7,7 +7,11 @@
 #include <cstring>
 #include <vector>
 
+#include "output/OmAnswerTree.h"
+#include "output/OmChart.h"
 #include "output/OmHeading.h"
+#include "output/OmInteractive.h"
+#include "output/OmModel.h"
 #include "output/OmOutputPart.h"
 #include "output/OmPageTitle.h"
 #include "output/OmProcedure.h"
@@ -74,6 +78,41 @@ TEST(OmOutputPartLayout, NothingFollowsAccept) {
   EXPECT_EQ(slotsOf<OmProcedure>(), 3U);
   EXPECT_EQ(slotsOf<OmTextBlock>(), 3U);
   EXPECT_EQ(slotsOf<OmPageTitle>(), 3U);
+}
+
+TEST(OmOutputPartLayout, TheDeliveryOfAChartFollowsAccept) {
+  EXPECT_EQ(
+      (std::vector<std::size_t>{
+          slotOf(&OmChart::Accept), slotOf(&OmChart::SetXmlDescription),
+          slotOf(&OmChart::SetXmlUncompressedLength), slotOf(&OmChart::SetXmlCompressedLength),
+          slotOf(&OmChart::SetBinaryDataStream), slotOf(&OmChart::SetImageStream),
+          slotOf(&OmChart::SetViZJSON), slotOf(&OmChart::SetImageSubType), slotOf(&OmChart::Done)}),
+      (std::vector<std::size_t>{2, 3, 4, 5, 6, 7, 8, 9, 10}));
+  EXPECT_EQ(slotsOf<OmChart>(), 11U);
+}
+
+TEST(OmOutputPartLayout, TheDeliveryOfAModelFollowsAccept) {
+  EXPECT_EQ((std::vector<std::size_t>{slotOf(&OmModel::Accept), slotOf(&OmModel::SetPMML),
+                                      slotOf(&OmModel::SetBinaryDataStream),
+                                      slotOf(&OmModel::SetPMMLContainer),
+                                      slotOf(&OmModel::SetStatXMLContainer)}),
+            (std::vector<std::size_t>{2, 3, 4, 5, 6}));
+  EXPECT_EQ(slotsOf<OmModel>(), 7U);
+}
+
+TEST(OmOutputPartLayout, NothingFollowsTheAcceptOfAnInteractiveOutput) {
+  EXPECT_EQ(slotOf(&OmInteractive::Accept), 2U);
+  EXPECT_EQ(slotsOf<OmInteractive>(), 3U);
+}
+
+TEST(OmOutputPartLayout, TheDeliveryOfAnAnswerTreeFollowsAccept) {
+  EXPECT_EQ((std::vector<std::size_t>{
+                slotOf(&OmAnswerTree::Accept), slotOf(&OmAnswerTree::SetTreeType),
+                slotOf(&OmAnswerTree::SetPath), slotOf(&OmAnswerTree::SetCompressedXML),
+                slotOf(&OmAnswerTree::SetUncompressedXML),
+                slotOf(&OmAnswerTree::SetUncompressedDisplayXML), slotOf(&OmAnswerTree::Done)}),
+            (std::vector<std::size_t>{2, 3, 4, 5, 6, 7, 8}));
+  EXPECT_EQ(slotsOf<OmAnswerTree>(), 9U);
 }
 
 }  // namespace

@@ -10,7 +10,11 @@
 #include <vector>
 
 #include "external/cells/OmStringCell.h"
+#include "output/OmAnswerTree.h"
+#include "output/OmChart.h"
 #include "output/OmHeading.h"
+#include "output/OmInteractive.h"
+#include "output/OmModel.h"
 #include "output/OmOutputPart.h"
 #include "output/OmPageTitle.h"
 #include "output/OmProcedure.h"
@@ -106,6 +110,27 @@ TEST(OmOutputPartVisitor, SeesALogAsATextBlock) {
 TEST(OmOutputPartVisitor, SeesAPageTitleAsAPageTitle) {
   OmPageTitle title("UTF-8");
   EXPECT_EQ(visitsOf<NineVisits>(title), (Visits{{"page title", &title}}));
+}
+
+TEST(OmOutputPartVisitor, SeesAChartAsAChart) {
+  OmChart chart(kLabel, "", 1);
+  EXPECT_EQ(visitsOf<NineVisits>(chart), (Visits{{"chart", &chart}}));
+}
+
+TEST(OmOutputPartVisitor, SeesAModelAsAModel) {
+  OmModel model(kLabel);
+  EXPECT_EQ(visitsOf<NineVisits>(model), (Visits{{"model", &model}}));
+}
+
+TEST(OmOutputPartVisitor, SeesAnInteractiveOutputAsAnInteractiveOutput) {
+  OmInteractive interactive(kLabel, "", 1);
+  EXPECT_EQ(visitsOf<NineVisits>(interactive), (Visits{{"interactive", &interactive}}));
+}
+
+TEST(OmOutputPartVisitor, SeesAnAnswerTreeAsAnAnswerTree) {
+  const std::string codePage = "UTF-8";
+  OmAnswerTree tree(kLabel, codePage);
+  EXPECT_EQ(visitsOf<NineVisits>(tree), (Visits{{"answer tree", &tree}}));
 }
 
 TEST(OmOutputPartVisitor, SeesAKindOfTheCallersOwnAsTheKindThatItDerivesFrom) {

@@ -10,7 +10,11 @@
 #include <type_traits>
 
 #include "external/cells/OmCellText.h"
+#include "output/OmAnswerTree.h"
+#include "output/OmChart.h"
 #include "output/OmHeading.h"
+#include "output/OmInteractive.h"
+#include "output/OmModel.h"
 #include "output/OmOutputPart.h"
 #include "output/OmPageTitle.h"
 #include "output/OmProcedure.h"
@@ -25,7 +29,11 @@ class BarePart : public OmOutputPart {
   void Accept(Visitor&) override {}
 };
 
-using PartKinds = testing::Types<BarePart, OmHeading, OmProcedure, OmTextBlock, OmPageTitle>;
+// The kinds of whose copies only one may be destroyed, those that count their copies, and all.
+using PlainKinds = testing::Types<BarePart, OmHeading, OmProcedure, OmTextBlock, OmPageTitle>;
+using SharingKinds = testing::Types<OmChart, OmModel, OmInteractive, OmAnswerTree>;
+using PartKinds = testing::Types<BarePart, OmHeading, OmProcedure, OmTextBlock, OmPageTitle,
+                                 OmChart, OmModel, OmInteractive, OmAnswerTree>;
 
 struct PartKindName {
   template <class Part>
@@ -35,8 +43,14 @@ struct PartKindName {
     if constexpr (std::is_same_v<Part, OmProcedure>) return "OmProcedure";
     if constexpr (std::is_same_v<Part, OmTextBlock>) return "OmTextBlock";
     if constexpr (std::is_same_v<Part, OmPageTitle>) return "OmPageTitle";
+    if constexpr (std::is_same_v<Part, OmChart>) return "OmChart";
+    if constexpr (std::is_same_v<Part, OmModel>) return "OmModel";
+    if constexpr (std::is_same_v<Part, OmInteractive>) return "OmInteractive";
+    if constexpr (std::is_same_v<Part, OmAnswerTree>) return "OmAnswerTree";
   }
 };
+
+inline const std::string kPartCodePage = "UTF-8";
 
 // A part of the kind with a clone of `label`. A page title gets it in place of its empty one.
 template <class Part>
@@ -49,6 +63,10 @@ std::unique_ptr<Part> makePart(const OmCellText& label) {
     return std::make_unique<OmTextBlock>(label, "UTF-8");
   } else if constexpr (std::is_same_v<Part, OmProcedure>) {
     return std::make_unique<OmProcedure>(label, "en", "UTF-8", "en_US");
+  } else if constexpr (std::is_same_v<Part, OmChart> || std::is_same_v<Part, OmInteractive>) {
+    return std::make_unique<Part>(label, "", 1);
+  } else if constexpr (std::is_same_v<Part, OmAnswerTree>) {
+    return std::make_unique<OmAnswerTree>(label, kPartCodePage);
   } else {
     return std::make_unique<Part>(label);
   }
