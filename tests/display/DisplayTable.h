@@ -9,6 +9,7 @@
 #include <deque>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "display/OmDisplayColumnHeading.h"
@@ -224,10 +225,10 @@ inline Index filled(const OmDisplayLayerHeading& layers) {
   return index;
 }
 
-// The filled indexes of all layers from the next one on, as in "0,1 2,1".
+// The cell indexes of all layers from the next one on, as in "0,1 2,1". Stops after one too many.
 inline std::string layersOf(OmDisplayLayerHeading& layers) {
   std::string all;
-  while (layers.NextLayer()) {
+  for (unsigned long long i = 0; i <= layers.NLayers() && layers.NextLayer(); ++i) {
     all += (all.empty() ? "" : " ") + textOfIndex(layers.getCurrentCellIndex());
   }
   return all;
@@ -251,15 +252,17 @@ inline std::string bodyOf(const OmDisplayLayerHeading& layers, const OmDisplayRo
   return alignedText(lines);
 }
 
-// The layer heading of a table with the column heading that is built on it, for tests of the
-// latter.
+// A layer heading with the column heading that is built on it, for tests of the latter. It keeps a
+// table that is handed over.
 struct Columns {
-  explicit Columns(OmPivotTable& table, bool skipEmpty = false)
-      : layers(table, false), heading(layers, skipEmpty) {}
-  explicit Columns(const TableOwner& table, bool skipEmpty = false) : Columns(*table, skipEmpty) {}
+  explicit Columns(const TableOwner& table, bool skipEmpty = false)
+      : layers(*table, false), heading(layers, skipEmpty) {}
+  explicit Columns(TableOwner&& table, bool skipEmpty = false)
+      : owned(std::move(table)), layers(*owned, false), heading(layers, skipEmpty) {}
   const OmDisplayColumnHeading* operator->() const { return &heading; }
   const OmDisplayColumnHeading& operator*() const { return heading; }
 
+  TableOwner owned;
   OmDisplayLayerHeading layers;
   OmDisplayColumnHeading heading;
 };
@@ -268,9 +271,12 @@ struct Columns {
 struct Rows {
   explicit Rows(const TableOwner& table, bool skipEmpty = false, bool namesInCorner = false)
       : layers(*table, false), heading(layers, skipEmpty, namesInCorner) {}
+  explicit Rows(TableOwner&& table, bool skipEmpty = false, bool namesInCorner = false)
+      : owned(std::move(table)), layers(*owned, false), heading(layers, skipEmpty, namesInCorner) {}
   const OmDisplayRowHeading* operator->() const { return &heading; }
   const OmDisplayRowHeading& operator*() const { return heading; }
 
+  TableOwner owned;
   OmDisplayLayerHeading layers;
   OmDisplayRowHeading heading;
 };

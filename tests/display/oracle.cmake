@@ -1,0 +1,1 @@
+target_sources(display-tests PRIVATE HeadingOracleTest.cpp)
