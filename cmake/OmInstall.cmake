@@ -5,7 +5,7 @@ include(CMakePackageConfigHelpers)
 set(OM_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/om)
 set(OM_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/om)
 
-install(TARGETS om om-cells om-settings om-platform om-blocks EXPORT omTargets
+install(TARGETS om om-render om-cells om-settings om-platform om-blocks EXPORT omTargets
         FILE_SET HEADERS DESTINATION ${OM_INSTALL_INCLUDEDIR}
         INCLUDES DESTINATION ${OM_INSTALL_INCLUDEDIR})
 install(EXPORT omTargets NAMESPACE om:: DESTINATION ${OM_INSTALL_CMAKEDIR})

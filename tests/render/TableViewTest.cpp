@@ -1,0 +1,9 @@
+// One layer of a table as a grid.
+
+#include "render/TableView.h"
+
+#include <gtest/gtest.h>
+
+namespace om::test {
+namespace {}  // namespace
+}  // namespace om::test
