@@ -29,6 +29,11 @@ target_link_libraries(om-render PUBLIC om PRIVATE Iconv::Iconv ${OM_RENDER_LIBRA
                                 $<BUILD_INTERFACE:om-build-options>)
 set_target_properties(om-render PROPERTIES LINKER_LANGUAGE CXX EXPORT_NAME render
                                            INSTALL_RPATH "${OM_INSTALL_RPATH}")
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  set(OM_RENDER_EXPORT_MAP ${PROJECT_SOURCE_DIR}/cmake/om-render.map)
+  target_link_options(om-render PRIVATE "LINKER:--version-script=${OM_RENDER_EXPORT_MAP}")
+  set_target_properties(om-render PROPERTIES LINK_DEPENDS ${OM_RENDER_EXPORT_MAP})
+endif()
 
 if(OM_BUILD_TESTS)
   add_library(om-render-static STATIC $<TARGET_OBJECTS:om-render-objects>)

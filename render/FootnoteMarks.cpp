@@ -20,7 +20,7 @@ void visitGrid(const HeadingGrid& grid, std::size_t level, const auto& visit) {
 // Calls visit(text) for every text of the view in reading order; some are null.
 void visitTexts(const TableView& view, const auto& visit) {
   const OmPivotTable& table = view.table();
-  visit(table.GetTableTitle());
+  visit(&titleOf(table));
   for (const TableView::LayerLabel& label : view.layerLabels()) {
     for (const OmDimensionNode* const node : label.path) visit(node->Text());
   }

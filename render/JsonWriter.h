@@ -1,4 +1,4 @@
-// Writes a whole document as JSON for other programs. The schema is in docs/render.md.
+// Writes a whole document as JSON for other programs. The schema is in docs/render-json.md.
 //
 // Nothing is kept in memory but the headings of the table that is being written. A stream that
 // fails ends the writing at once; the caller looks at its state. Text that is not UTF-8 is made so.
@@ -16,7 +16,9 @@
 namespace om::render {
 
 struct JsonOptions {
-  TableOptions tables;
+  TableOptions tables = {};
+  // For each layer also its corner and the spans of its headings, for programs that draw it.
+  bool grid = false;
 };
 
 OM_RENDER_API void writeJson(const OmOutputTree& document, std::ostream& out,

@@ -26,9 +26,4 @@ bool LayerWalk::next() {
   return true;
 }
 
-const OmCellText& titleOf(const OmPivotTable& table) {
-  const OmCellText* const title = table.GetTableTitle();
-  return title != nullptr ? *title : table.Label();
-}
-
 }  // namespace om::render

@@ -16,7 +16,7 @@ enum class Layers {
 };
 
 struct TableOptions {
-  ViewOptions view;
+  ViewOptions view = {};
   bool skipEmptyLayers = true;
   Layers layers = Layers::ALL;
   int layer = 0;  // counts from 0 among the layers that are not skipped
@@ -55,9 +55,6 @@ class OM_RENDER_API LayerWalk {
   std::unique_ptr<TableView> view_;
   std::unique_ptr<FootnoteMarks> marks_;
 };
-
-// The title that stands over a table: its table title, or its label when that is not set.
-OM_RENDER_API const OmCellText& titleOf(const OmPivotTable& table);
 
 }  // namespace om::render
 

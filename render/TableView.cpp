@@ -1,6 +1,8 @@
 #include "render/TableView.h"
 
+#include <algorithm>
 #include <deque>
+#include <limits>
 #include <utility>
 
 #include "pivot/OmPivotTable.h"
@@ -12,6 +14,9 @@ namespace {
 
 using Entry = OmDisplayLayerHeading::ConstNode;
 using Path = std::vector<const OmDimensionNode*>;
+
+// In the place of a subscript: the column has no category along the dimension.
+constexpr int kNone = std::numeric_limits<int>::min();
 
 std::vector<int> layerIndexOf(const OmDisplayLayerHeading& layers) {
   std::vector<int> index(layers.Table().NDimensions());
@@ -71,11 +76,29 @@ TableView::TableView(OmDisplayLayerHeading& layers, const ViewOptions& options)
       columnGrid_(columnHeading_, options.columnSpans),
       rowGrid_(rowHeading_, options.rowSpans),
       index_(layerIndex_) {
+  enterColumns();
   enterLayer();
   enterCorner();
 }
 
 TableView::~TableView() = default;
+
+void TableView::enterColumns() {
+  for (int k = 0; k < columnHeading_.NDimensions(); ++k) {
+    const int dimension = columnHeading_.getDimensionIndex(k);
+    if (dimension < 0 || static_cast<std::size_t>(dimension) >= layerIndex_.size()) continue;
+    columnDimensions_.push_back(static_cast<std::size_t>(dimension));
+  }
+  columnSubscripts_.reserve(columnDimensions_.size() * columnCount());
+  std::vector<int> index;
+  for (std::uint64_t column = 0; column < columnCount(); ++column) {
+    index.assign(layerIndex_.size(), kNone);
+    columnHeading_.Fill(index, static_cast<int>(column));
+    for (const std::size_t dimension : columnDimensions_) {
+      columnSubscripts_.push_back(index[dimension]);
+    }
+  }
+}
 
 void TableView::enterLayer() {
   for (int k = 0; k < layers_.NDimensions(); ++k) {
@@ -110,16 +133,32 @@ void TableView::indexOf(const Place& place, std::vector<int>& index) const {
 
 const OmCellText* TableView::cell(const Place& place) const {
   indexOf(place, index_);
-  return table().Cell(index_);
+  return cellAt(index_);
+}
+
+// No cell can be at a negative subscript, and the table refuses to look there.
+const OmCellText* TableView::cellAt(const std::vector<int>& index) const {
+  const bool isEmpty = std::any_of(index.begin(), index.end(), [](int i) { return i < 0; });
+  return isEmpty ? nullptr : table().Cell(index);
 }
 
 void TableView::row(std::uint64_t row, std::vector<const OmCellText*>& cells) const {
-  index_ = layerIndex_;
-  rowHeading_.Fill(index_, static_cast<int>(row));
-  cells.resize(columnCount());
-  for (std::size_t column = 0; column < cells.size(); ++column) {
-    columnHeading_.Fill(index_, static_cast<int>(column));
-    cells[column] = table().Cell(index_);
+  this->row(row, 0, columnCount(), cells);
+}
+
+void TableView::row(std::uint64_t row, std::uint64_t begin, std::uint64_t end,
+                    std::vector<const OmCellText*>& cells) const {
+  rowIndex_ = layerIndex_;
+  rowHeading_.Fill(rowIndex_, static_cast<int>(row));
+  index_ = rowIndex_;
+  cells.resize(end - begin);
+  const int* subscript = columnSubscripts_.data() + begin * columnDimensions_.size();
+  for (const OmCellText*& cell : cells) {
+    for (const std::size_t dimension : columnDimensions_) {
+      index_[dimension] = *subscript != kNone ? *subscript : rowIndex_[dimension];
+      ++subscript;
+    }
+    cell = cellAt(index_);
   }
 }
 
@@ -143,6 +182,11 @@ std::vector<Path> TableView::columnPaths(std::uint64_t column) const {
   std::vector<Entry*> entries;
   columnHeading_.DimAllNodes(static_cast<int>(column), entries);
   return splitPaths(entries, columnHeading_.ColumnCategories(static_cast<int>(column)));
+}
+
+const OmCellText& titleOf(const OmPivotTable& table) {
+  const OmCellText* const title = table.GetTableTitle();
+  return title != nullptr ? *title : table.Label();
 }
 
 }  // namespace om::render

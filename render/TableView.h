@@ -91,6 +91,9 @@ class OM_RENDER_API TableView {
   // The texts of one row, null for an empty cell. Faster than one by one.
   // REQUIRES: row < rowCount().
   void row(std::uint64_t row, std::vector<const OmCellText*>& cells) const;
+  // The same for the columns from `begin` to `end`. REQUIRES: begin <= end <= columnCount().
+  void row(std::uint64_t row, std::uint64_t begin, std::uint64_t end,
+           std::vector<const OmCellText*>& cells) const;
 
   // Where a cell index stands in the body; nothing when it is of another layer, its row or column
   // is not shown, or no category has one of its subscripts. The first call takes time in proportion
@@ -106,8 +109,10 @@ class OM_RENDER_API TableView {
  private:
   class Subscripts;
 
+  void enterColumns();
   void enterLayer();
   void enterCorner();
+  const OmCellText* cellAt(const std::vector<int>& index) const;
 
   OmDisplayLayerHeading& layers_;
   const ViewOptions options_;
@@ -117,11 +122,17 @@ class OM_RENDER_API TableView {
   OmDisplayRowHeading rowHeading_;
   HeadingGrid columnGrid_;
   HeadingGrid rowGrid_;
+  std::vector<std::size_t> columnDimensions_;
+  std::vector<int> columnSubscripts_;  // for each column, one for each of its dimensions
   std::vector<CornerCell> corner_;
   std::vector<LayerLabel> layerLabels_;
   mutable std::vector<int> index_;                  // of the last cell, to have room for it
+  mutable std::vector<int> rowIndex_;               // of the last row, likewise
   mutable std::unique_ptr<Subscripts> subscripts_;  // made by the first placeOf
 };
+
+// The title that stands over a table: its table title, or its label when that is not set.
+OM_RENDER_API const OmCellText& titleOf(const OmPivotTable& table);
 
 }  // namespace om::render
 

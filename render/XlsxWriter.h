@@ -1,8 +1,18 @@
 // Writes the tables of a document as a workbook: one sheet for each table and layer.
 //
+// A sheet shows the title, what the layer shows of each layer dimension, the headings, whose labels
+// are merged cells as the options ask for and stay in sight, the body, the caption and the
+// footnotes. Numbers are numbers, in the format that their cells have, with the marks of their
+// footnotes in it; everything else is text, and never a formula or a link. Text keeps its line
+// ends; other control characters become U+FFFD, and beyond the 32767 characters that a cell takes
+// it is cut off, with "…" at the end. A number is stored with 16 digits, as spreadsheet programs
+// do. A table without a layer to show has a sheet with its title and caption.
+//
 // The workbook is written to a file, which is incomplete after an error. Rows are written as they
-// come, in constant memory but for the texts that the sheets share.
-// Errors: std::runtime_error with the reason that the file could not be written, std::bad_alloc.
+// come, in constant memory, unless there are more than 100 sheets: each of them would keep a
+// temporary file open.
+// Errors: std::runtime_error with the reason that the file could not be written, or that a table is
+// too large for a sheet (1,048,576 rows, 16,384 columns); std::bad_alloc.
 
 #ifndef OM_RENDER_XLSXWRITER_H_
 #define OM_RENDER_XLSXWRITER_H_
@@ -16,7 +26,7 @@
 namespace om::render {
 
 struct XlsxOptions {
-  TableOptions tables;
+  TableOptions tables = {};
 };
 
 // Whether this build can write workbooks: the library for it is optional.

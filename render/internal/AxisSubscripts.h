@@ -33,24 +33,19 @@ class AxisSubscripts {
 
   // The first place with these subscripts.
   std::optional<std::uint64_t> placeOf(const std::vector<int>& index) const {
-    std::uint64_t position = 0;
-    for (const Dimension& dimension : dimensions_) {
-      const std::pair wanted(index[dimension.number], std::uint64_t{0});
-      const auto found = std::lower_bound(dimension.digits.begin(), dimension.digits.end(), wanted);
-      if (found == dimension.digits.end() || found->first != wanted.first) return std::nullopt;
-      position += found->second * dimension.weight;
-    }
-    if (shown_ == nullptr) return position;
-    const auto found = std::lower_bound(shown_->begin(), shown_->end(), position);
-    if (found == shown_->end() || *found != position) return std::nullopt;
-    return static_cast<std::uint64_t>(found - shown_->begin());
+    const std::optional<std::uint64_t> first = positionOf(index, false);
+    if (!first || shown_ == nullptr) return first;
+    const std::optional<std::uint64_t> place = shownAt(*first);
+    // Of several categories with one subscript, a sparse table shows the last one only.
+    return place ? place : shownAt(*positionOf(index, true));
   }
 
  private:
+  using Digit = std::pair<int, std::uint64_t>;  // a subscript and the digit of its category
   struct Dimension {
     std::size_t number;
     std::uint64_t weight;
-    std::vector<std::pair<int, std::uint64_t>> digits;  // by subscript
+    std::vector<Digit> digits;  // by subscript, then by digit
   };
 
   template <class Heading>
@@ -67,6 +62,26 @@ class AxisSubscripts {
     }
     std::sort(result.digits.begin(), result.digits.end());
     return result;
+  }
+
+  // The position of the first categories with these subscripts, or of the last ones.
+  std::optional<std::uint64_t> positionOf(const std::vector<int>& index, bool last) const {
+    std::uint64_t position = 0;
+    for (const Dimension& dimension : dimensions_) {
+      const std::vector<Digit>& digits = dimension.digits;
+      const auto [begin, end] = std::equal_range(
+          digits.begin(), digits.end(), Digit(index[dimension.number], 0),
+          [](const Digit& a, const Digit& b) { return a.first < b.first; });
+      if (begin == end) return std::nullopt;
+      position += (last ? *(end - 1) : *begin).second * dimension.weight;
+    }
+    return position;
+  }
+
+  std::optional<std::uint64_t> shownAt(std::uint64_t position) const {
+    const auto found = std::lower_bound(shown_->begin(), shown_->end(), position);
+    if (found == shown_->end() || *found != position) return std::nullopt;
+    return static_cast<std::uint64_t>(found - shown_->begin());
   }
 
   const std::vector<unsigned long long>* shown_;

@@ -1,0 +1,248 @@
+#include "render/XlsxWriter.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "pivot/OmPivotTable.h"
+#include "render/DocumentWalk.h"
+#include "render/internal/CellText.h"
+#include "render/internal/Workbook.h"
+#include "render/internal/XlsxText.h"
+
+namespace om::render {
+
+namespace {
+
+using internal::Workbook;
+using Span = HeadingGrid::Span;
+using Style = Workbook::Style;
+
+constexpr std::uint64_t kMostSheetsAtOnce = 100;
+constexpr double kLeastWidth = 8;
+constexpr double kMostWidth = 40;
+
+class SheetCount : public DocumentWalk {
+ public:
+  SheetCount(const OmOutputTree& document, const TableOptions& options) : options_(options) {
+    walk(document);
+  }
+  std::uint64_t count() const { return count_; }
+
+ private:
+  void beginHeading(Kind, OmHeading&, int) override {}
+  void endHeading(int) override {}
+  void text(Kind, const OmTextBlock&, int) override {}
+  void object(const Object&, int) override {}
+  void table(OmPivotTable& table, int) override {
+    count_ += std::max<std::uint64_t>(LayerWalk(table, options_).count(), 1);
+  }
+
+  const TableOptions& options_;
+  std::uint64_t count_ = 0;
+};
+
+// One sheet, written from the top down.
+class Sheet {
+ public:
+  Sheet(Workbook& workbook, const std::string& name)
+      : workbook_(workbook), sheet_(workbook.addSheet(name)) {}
+
+  void write(const OmPivotTable& table) {
+    writeLine(&titleOf(table), nullptr, Style::TITLE);
+    writeCaption(table, nullptr);
+  }
+
+  void write(const TableView& view, const FootnoteMarks& marks) {
+    marks_ = &marks;
+    labelColumns_ = view.rows().levels();
+    requireRoom(view);
+    widths_.assign(labelColumns_ + view.columnCount(), kLeastWidth);
+    writeLine(&titleOf(view.table()), marks_, Style::TITLE);
+    for (const TableView::LayerLabel& label : view.layerLabels()) writeLayer(label);
+    writeHeading(view);
+    if (view.rowCount() != 0 && view.columnCount() != 0) {
+      worksheet_freeze_panes(sheet_, static_cast<lxw_row_t>(row_),
+                             static_cast<lxw_col_t>(labelColumns_));
+    }
+    writeBody(view);
+    writeCaption(view.table(), marks_);
+    writeNotes();
+    for (std::size_t i = 0; i < widths_.size(); ++i) workbook_.setWidth(sheet_, i, widths_[i]);
+  }
+
+ private:
+  static void requireRoom(const TableView& view) {
+    const std::uint64_t columns = view.rows().levels() + view.columnCount();
+    const std::uint64_t rows = view.columns().levels() + view.rowCount();
+    // Title, layers, corner, caption and notes come on top.
+    const std::uint64_t others = view.layerLabels().size() + view.table().Footnotes().size() + 4;
+    if (columns <= LXW_COL_MAX && rows + others <= LXW_ROW_MAX) return;
+    throw std::runtime_error("the table \"" + std::string(titleOf(view.table())) + "\" has " +
+                             std::to_string(view.rowCount()) + " rows and " +
+                             std::to_string(view.columnCount()) +
+                             " columns, which is too large for a sheet");
+  }
+
+  std::string marksOf(const OmCellText* text) const {
+    return marks_ != nullptr ? marks_->marksOf(text) : std::string();
+  }
+
+  void writeText(std::uint64_t row, std::uint64_t column, const std::string& text,
+                 const std::string& marks, Style style) {
+    const std::string raised = internal::xlsxText(marks, 1000);
+    const std::size_t room = internal::kMostXlsxUnits - internal::xlsxUnits(raised);
+    workbook_.writeText(sheet_, row, column, internal::xlsxText(text, room), raised, style);
+  }
+
+  void writeText(std::uint64_t row, std::uint64_t column, const OmCellText* text, Style style) {
+    if (text != nullptr) writeText(row, column, std::string(read_(text)), marksOf(text), style);
+  }
+
+  void writeLine(const OmCellText* text, const FootnoteMarks* marks, Style style) {
+    writeText(row_++, 0, std::string(read_(text)),
+              marks != nullptr ? marks->marksOf(text) : std::string(), style);
+  }
+
+  // "Dimension: group: category", each with its marks.
+  void writeLayer(const TableView::LayerLabel& label) {
+    std::string line;
+    for (const OmDimensionNode* const node : label.path) {
+      if (!line.empty()) line += ": ";
+      line += read_(node->Text());
+      const std::string marks = marksOf(node->Text());
+      if (!marks.empty()) line += " (" + marks + ')';
+    }
+    writeText(row_++, 0, line, {}, Style::LAYER);
+  }
+
+  void widen(std::uint64_t column, std::string_view text) {
+    const auto wanted = static_cast<double>(internal::xlsxUnits(text)) + 2;
+    widths_[column] = std::max(widths_[column], std::min(wanted, kMostWidth));
+  }
+
+  // The corner has a row of its own where there are no labels over the columns.
+  void writeHeading(const TableView& view) {
+    const HeadingGrid& columns = view.columns();
+    const bool hasCorner = std::any_of(view.corner().begin(), view.corner().end(),
+                                       [](const auto& cell) { return cell.text != nullptr; });
+    const std::uint64_t height = std::max<std::uint64_t>(columns.levels(), hasCorner ? 1 : 0);
+    for (const TableView::CornerCell& cell : view.corner()) {
+      if (height == 0) break;
+      if (cell.end - cell.begin == 1) widen(cell.begin, read_(cell.text));
+      writeText(row_, cell.begin, cell.text, Style::CORNER);
+      workbook_.merge(sheet_, row_, row_ + height, cell.begin, cell.end);
+    }
+    for (std::size_t level = 0; level < columns.levels(); ++level) {
+      for (const Span& span : columns.spans(level)) {
+        const std::uint64_t column = labelColumns_ + span.begin;
+        if (span.places() == 1) widen(column, read_(span.text()));
+        writeText(row_ + level, column, span.text(), Style::COLUMN_LABEL);
+        workbook_.merge(sheet_, row_ + level, row_ + level + span.levels, column,
+                        labelColumns_ + span.end);
+      }
+    }
+    row_ += height;
+  }
+
+  void writeBody(const TableView& view) {
+    std::vector<std::size_t> next(labelColumns_);  // at each level, the next span
+    std::vector<const OmCellText*> cells;
+    for (std::uint64_t row = 0; row < view.rowCount(); ++row, ++row_) {
+      for (std::size_t level = 0; level < labelColumns_; ++level) {
+        const std::vector<Span>& spans = view.rows().spans(level);
+        if (next[level] == spans.size() || spans[next[level]].begin != row) continue;
+        writeRowLabel(level, spans[next[level]++]);
+      }
+      view.row(row, cells);
+      for (std::size_t column = 0; column < cells.size(); ++column) {
+        if (cells[column] != nullptr) writeCell(labelColumns_ + column, *cells[column]);
+      }
+    }
+  }
+
+  void writeRowLabel(std::size_t level, const Span& span) {
+    if (span.levels == 1) widen(level, read_(span.text()));
+    writeText(row_, level, span.text(), Style::ROW_LABEL);
+    workbook_.merge(sheet_, row_, row_ + span.places(), level, level + span.levels);
+  }
+
+  void writeCell(std::uint64_t column, const OmCellText& cell) {
+    widen(column, read_(&cell));
+    const OmNumber* const number = internal::numberOf(&cell);
+    if (number != nullptr && internal::isAllOf(cell, *number)) {
+      const std::string marks = marksOf(&cell);
+      const std::string code = internal::xlsxNumberFormat(*number, marks);
+      if (internal::fitXlsxFormat(marks) && workbook_.hasFormat(code)) {
+        return workbook_.writeNumber(sheet_, row_, column, number->Value(), code);
+      }
+    }
+    writeText(row_, column, &cell, Style::TEXT);
+  }
+
+  void writeCaption(const OmPivotTable& table, const FootnoteMarks* marks) {
+    if (table.Caption() == nullptr) return;
+    ++row_;
+    writeLine(table.Caption(), marks, Style::TEXT);
+  }
+
+  void writeNotes() {
+    if (!marks_->notes().empty()) ++row_;
+    for (const FootnoteMarks::Note& note : marks_->notes()) {
+      std::string line = note.mark + ". ";
+      line += read_(note.text);
+      writeText(row_++, 0, line, {}, Style::TEXT);
+    }
+  }
+
+  Workbook& workbook_;
+  lxw_worksheet* const sheet_;
+  const FootnoteMarks* marks_ = nullptr;
+  internal::TextReader read_;
+  std::uint64_t row_ = 0;
+  std::size_t labelColumns_ = 0;
+  std::vector<double> widths_;
+};
+
+class XlsxDocument : public DocumentWalk {
+ public:
+  XlsxDocument(const XlsxOptions& options, Workbook& workbook)
+      : options_(options), workbook_(workbook) {}
+
+ private:
+  void beginHeading(Kind, OmHeading&, int) override {}
+  void endHeading(int) override {}
+  void text(Kind, const OmTextBlock&, int) override {}
+  void object(const Object&, int) override {}
+
+  void table(OmPivotTable& table, int) override {
+    const std::string number = std::to_string(++tables_);
+    const std::string title(titleOf(table));
+    LayerWalk walk(table, options_.tables);
+    if (walk.count() == 0) Sheet(workbook_, internal::xlsxSheetName(number, title)).write(table);
+    for (int layer = 1; walk.next(); ++layer) {
+      const std::string which = walk.count() > 1 ? number + '.' + std::to_string(layer) : number;
+      Sheet(workbook_, internal::xlsxSheetName(which, title)).write(walk.view(), walk.marks());
+    }
+  }
+
+  const XlsxOptions& options_;
+  Workbook& workbook_;
+  std::size_t tables_ = 0;
+};
+
+}  // namespace
+
+bool canWriteXlsx() { return true; }
+
+void writeXlsx(const OmOutputTree& document, const std::string& path, const XlsxOptions& options) {
+  const std::uint64_t sheets = SheetCount(document, options.tables).count();
+  Workbook workbook(path, sheets <= kMostSheetsAtOnce);
+  if (sheets == 0) workbook.addSheet("Output");  // a workbook has at least one
+  XlsxDocument(options, workbook).walk(document);
+  workbook.close();
+}
+
+}  // namespace om::render
