@@ -69,9 +69,9 @@ class AxisSubscripts {
     std::uint64_t position = 0;
     for (const Dimension& dimension : dimensions_) {
       const std::vector<Digit>& digits = dimension.digits;
-      const auto [begin, end] = std::equal_range(
-          digits.begin(), digits.end(), Digit(index[dimension.number], 0),
-          [](const Digit& a, const Digit& b) { return a.first < b.first; });
+      const auto [begin, end] =
+          std::equal_range(digits.begin(), digits.end(), Digit(index[dimension.number], 0),
+                           [](const Digit& a, const Digit& b) { return a.first < b.first; });
       if (begin == end) return std::nullopt;
       position += (last ? *(end - 1) : *begin).second * dimension.weight;
     }
