@@ -18,7 +18,7 @@ add_library(om-objects OBJECT
   backend/tables/MultiBase.cpp backend/tables/OmFootnote.cpp
   dimensions/OmDimension.cpp dimensions/OmDimensionEdit.cpp dimensions/OmDimensionNode.cpp
   display/OmDisplayColumnHeading.cpp display/OmDisplayLayerHeading.cpp
-  display/OmDisplayRowHeading.cpp display/internal/DenseScan.cpp
+  display/OmDisplayRowHeading.cpp display/internal/AxisIndex.cpp display/internal/DenseScan.cpp
   display/internal/EmptinessScan.cpp display/internal/OmDimensionLayout.cpp
   display/internal/OmDisplayAxisData.cpp display/internal/OmDisplayLayerData.cpp
   display/internal/SparseScan.cpp

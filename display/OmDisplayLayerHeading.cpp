@@ -51,7 +51,7 @@ int OmDisplayLayerHeading::restoreLayer() const {
 
 void OmDisplayLayerHeading::Fill(std::vector<int>& index) const {
   std::uint64_t position = 0;
-  if (_my->currentPosition(position)) _my->fill(_my->layerIndex, position, index);
+  if (_my->currentPosition(position)) _my->layerIndex.fill(position, index);
 }
 
 std::vector<int> OmDisplayLayerHeading::getCurrentCellIndex() const {

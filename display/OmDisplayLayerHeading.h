@@ -30,8 +30,9 @@
 // Lifetime: it must not outlive the table, nor the column and row headings outlive it. While it
 //   lives, the table's dimensions, axes and cells must stay as they are: nothing is computed again.
 // Threads: one at a time, also for operations that are const.
-// Errors: std::bad_alloc, and std::length_error "vector<T> too long"; the heading is then as
-//   before. Numbers out of range are no errors; each operation says what it does with them.
+// Errors: std::bad_alloc, and std::length_error "vector<T> too long", as where a negative position
+//   would lengthen a list; the heading is then as before. Other numbers out of range are no errors;
+//   each operation says what it does with them.
 // Limits: where an axis has 2^64 positions or more, their numbers are modulo 2^64.
 
 #ifndef OM_DISPLAY_OMDISPLAYLAYERHEADING_H_
@@ -75,7 +76,8 @@ class OM_EXPORT OmDisplayLayerHeading {
   // The table's number of the dimension at a heading position. Beyond the end, the list of
   // dimensions is lengthened to there with -1, as a PuppetVector is.
   int getDimensionIndex(int position) const;
-  // The largest number of labels that a category of that dimension shows; 0 beyond the end.
+  // The largest number of labels that a category of that dimension shows; 0 beyond the end, where
+  // the list stays as it is.
   int VisibleWidth(int position) const;
 
   // The number of the current layer, or -1. (What restoreLayer took over may be any number.)
@@ -95,8 +97,10 @@ class OM_EXPORT OmDisplayLayerHeading {
   int restoreLayer() const;
 
   // Writes the subscripts of the current layer's categories into a cell index, after sizing it to
-  // the table's number of dimensions; new entries are 0. Nothing when no layer is current.
-  // Allocates nothing when the index has its size.
+  // the table's number of dimensions; new entries are 0. Nothing when no layer is current, nor for
+  // a restored number beyond the layers that are not skipped. (Where none are skipped, the number
+  // of a layer that does not exist is taken apart all the same, and writes what it has categories
+  // for.) Allocates nothing when the index has its size.
   void Fill(std::vector<int>& index) const;
   // A whole cell index with the subscripts of the layer that was selected last, and 0 elsewhere.
   std::vector<int> getCurrentCellIndex() const;

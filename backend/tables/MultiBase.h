@@ -48,6 +48,16 @@ class MultiBase {
   // `digits` has its size.
   void decode(std::uint64_t position, Digits& digits) const;
 
+  // Makes the digits those of the next position.
+  // REQUIRES: they are the digits of a position, and no radix is 0 or less.
+  void increment(Digits& digits) const {
+    std::size_t i = digits.size();
+    while (i > 1 && ++digits[i - 1] == static_cast<std::uint64_t>(radices_[i - 1])) {
+      digits[--i] = 0;
+    }
+    if (i == 1) ++digits[0];
+  }
+
   // One digit of a position. REQUIRES: i < size(), position < count().
   std::uint64_t digit(std::uint64_t position, std::size_t i) const {
     const std::uint64_t weight = weights_[i];

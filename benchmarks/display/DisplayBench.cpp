@@ -205,9 +205,9 @@ std::size_t forEveryPlace(int rows, int columns, const Visit& visit) {
   return places;
 }
 
-void registerBody(const string& name, const Shape& shape) {
+void registerBody(const string& name, const string& fill, const Shape& shape) {
   const string key = "Body/" + name;
-  const auto makeTable = [=] { return tableWith("half", shape); };
+  const auto makeTable = [=] { return tableWith(fill, shape); };
   for (const bool reused : {false, true}) {
     add(key + (reused ? "/om_reused" : "/om"), [=](benchmark::State& state) {
       OmPivotTable& table = tableOf(key, makeTable);
@@ -298,10 +298,12 @@ void registerAll() {
     registerLevels(name, shape, true);
     registerPosition(name, shape);
   }
-  registerBody("flat", kFlat);
-  registerBody("nested", kNested);
-  registerBody("flat_in_cache", {{100}, {100}});
-  registerBody("nested_in_cache", {{4, 5, 5}, {10, 10}});
+  registerBody("flat", "half", kFlat);
+  registerBody("nested", "half", kNested);
+  for (const string fill : {"half", "full"}) {
+    registerBody("flat_in_cache/" + fill, fill, {{100}, {100}});
+    registerBody("nested_in_cache/" + fill, fill, {{4, 5, 5}, {10, 10}});
+  }
   for (const std::size_t cells : {1000, 10'000, 50'000}) {
     registerSparse("10^7", {{100, 100, 100}, {10}}, cells);
   }

@@ -67,13 +67,6 @@ void DenseScan::place(const MultiBase::Digits& digits) {
   }
 }
 
-void DenseScan::increment(MultiBase::Digits& digits) const {
-  for (std::size_t k = digits.size(); k-- != 0;) {
-    if (++digits[k] < static_cast<std::uint64_t>(axis_.radix(k))) return;
-    digits[k] = 0;
-  }
-}
-
 // Whether there is a cell at the subscripts of the last cell, where any will do. A search that
 // fails there begins anew with the first subscripts: in them it finds the cells of most positions,
 // and comes upon nodes that are in the cache.
@@ -121,7 +114,7 @@ std::vector<unsigned long long> DenseScan::operator()() {
   for (unsigned long long position = 0; position != axis_.count(); ++position) {
     place(digits);
     if (isBelowLast() || find(start_, startLevels_)) positions.push_back(position);
-    increment(digits);
+    axis_.increment(digits);
   }
   return positions;
 }

@@ -43,7 +43,6 @@ class DenseScan {
   static void admitAny(const OmDimensionLayout& layout, std::size_t size, Level& level);
   void descend();
   void place(const MultiBase::Digits& digits);
-  void increment(MultiBase::Digits& digits) const;
   bool isBelowLast() const;
   bool find(const void* element, std::size_t levels);
   bool findAny(const PointerVector& node, std::size_t levels, Level& level);

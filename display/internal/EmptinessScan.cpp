@@ -14,13 +14,14 @@ namespace {
 
 // The product of all sizes, or the largest number there is.
 std::uint64_t placesOf(const OmPivotTable& table) {
+  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
   std::uint64_t places = 1;
-  bool tooMany = false;
   for (const int size : table.SizeVector()) {
     if (size == 0) return 0;
-    tooMany |= __builtin_mul_overflow(places, static_cast<std::uint64_t>(size), &places);
+    const auto factor = static_cast<std::uint64_t>(size);
+    places = places > kMost / factor ? kMost : places * factor;
   }
-  return tooMany ? std::numeric_limits<std::uint64_t>::max() : places;
+  return places;
 }
 
 // The number of cells that an iteration meets, or `most` when there are as many or more.

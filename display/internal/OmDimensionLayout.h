@@ -1,7 +1,8 @@
 // OmDimensionLayout: one dimension spread out for display. Its leaves, which are the nodes that are
 // no groups, get positions in the order of the tree, and each leaf has a path up to the root.
 //
-// Paths share what they have in common: an entry is made once for each node, and leads up.
+// Paths share what they have in common: an entry is made once for each node, and leads up. (A path
+// with a stale link, below, has entries of its own, but for the root.)
 //
 //   leaf 0 | category, labels, subscript |  ->  entry A ---above---+
 //   leaf 1 | category, labels, subscript |  ->  entry B ---above---+--> entry group --> entry root

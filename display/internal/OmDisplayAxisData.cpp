@@ -16,8 +16,7 @@ OmDisplayAxisData::OmDisplayAxisData(OmDisplayLayerData& layerHeading, bool skip
       dimNamesInCorner(namesInCorner),
       axisDimensions(own) {
   axisDimensions.reverse();
-  positionIndex = MultiBase(axisDimensions, table->SizeVector());
-  layers.digits.reserve(positionIndex.size());
+  positionIndex = AxisIndex(axisDimensions, table->SizeVector(), layers.layouts);
   if (skipEmpty) {
     PuppetVector<short> others = other;
     others.reverse();
@@ -26,9 +25,9 @@ OmDisplayAxisData::OmDisplayAxisData(OmDisplayLayerData& layerHeading, bool skip
   positionCount = skipEmpty ? nonEmpty.size() : positionIndex.count();
 
   for (std::size_t k = 0; k < positionIndex.size(); ++k) {
-    const OmDimensionLayout* const layout = layers.layoutOf(positionIndex.dimension(k));
+    const OmDimensionLayout* const layout = positionIndex.layout(k);
     const bool inCorner = dimNamesInCorner && layout != nullptr && layout->rootIsLabel();
-    blocks_.push_back({layout, inCorner ? std::size_t{1} : 0, totalLevels});
+    blocks_.push_back({inCorner ? std::size_t{1} : 0, totalLevels});
     levels.push_back(countLevels(k));
     totalLevels += levels.back();
   }
@@ -36,7 +35,7 @@ OmDisplayAxisData::OmDisplayAxisData(OmDisplayLayerData& layerHeading, bool skip
 
 // The largest number of labels of a category shown, but for the one that stands in the corner.
 std::uint16_t OmDisplayAxisData::countLevels(std::size_t k) const {
-  const auto& [layout, firstLabel, firstLevel] = blocks_[k];
+  const OmDimensionLayout* const layout = positionIndex.layout(k);
   if (layout == nullptr) return 0;
   int most = nonEmpty.empty() ? layout->maxVisibleDepth() : 0;
   for (const unsigned long long position : nonEmpty) {
@@ -44,7 +43,7 @@ std::uint16_t OmDisplayAxisData::countLevels(std::size_t k) const {
     if (leaf < layout->size()) most = std::max<int>(most, layout->visibleDepth(leaf));
     if (most == layout->maxVisibleDepth()) break;
   }
-  return static_cast<std::uint16_t>(most != 0 ? most - static_cast<int>(firstLabel) : 0);
+  return static_cast<std::uint16_t>(most != 0 ? most - static_cast<int>(blocks_[k].firstLabel) : 0);
 }
 
 void OmDisplayAxisData::enterCornerTexts() {
@@ -59,7 +58,7 @@ void OmDisplayAxisData::enterCornerTexts() {
 bool OmDisplayAxisData::enterNames() {
   bool named = false;
   for (std::size_t k = 0; k < blocks_.size(); ++k) {
-    const OmDimensionLayout* const layout = blocks_[k].layout;
+    const OmDimensionLayout* const layout = positionIndex.layout(k);
     if (layout == nullptr || layout->size() == 0) continue;
     const std::size_t begin = cornerTexts.size();
     cornerTexts.resize(begin + levels[k]);
@@ -84,27 +83,17 @@ bool OmDisplayAxisData::positionOf(int place, std::uint64_t& position) const {
   return true;
 }
 
-// Calls visit(k, layout, leaf) for each dimension with a leaf at the position.
-template <class Visit>
-void OmDisplayAxisData::visitLeaves(std::uint64_t position, const Visit& visit) const {
-  positionIndex.decode(position, layers.digits);
-  for (std::size_t k = 0; k < blocks_.size(); ++k) {
-    const OmDimensionLayout* const layout = blocks_[k].layout;
-    const std::uint64_t leaf = layers.digits[k];
-    if (layout != nullptr && leaf < layout->size()) visit(k, *layout, leaf);
-  }
-}
-
 std::deque<OmDisplayAxisData::ConstNode*> OmDisplayAxisData::labels(int place) const {
   std::deque<ConstNode*> result(totalLevels);
   std::uint64_t position = 0;
   if (!positionOf(place, position)) return result;
-  visitLeaves(position, [&](std::size_t k, const OmDimensionLayout& layout, std::size_t leaf) {
-    const Block& block = blocks_[k];
-    for (std::size_t level = 0; level < levels[k]; ++level) {
-      result[block.firstLevel + level] = layout.label(leaf, block.firstLabel + level);
-    }
-  });
+  positionIndex.visitLeaves(
+      position, [&](std::size_t k, const OmDimensionLayout& layout, std::size_t leaf) {
+        const Block& block = blocks_[k];
+        for (std::size_t level = 0; level < levels[k]; ++level) {
+          result[block.firstLevel + level] = layout.label(leaf, block.firstLabel + level);
+        }
+      });
   return result;
 }
 
@@ -114,7 +103,7 @@ std::deque<OmDisplayAxisData::ConstNode*> OmDisplayAxisData::labelsOnLevel(int l
   if (on >= totalLevels) return result;
   std::size_t k = 0;
   while (on >= blocks_[k].firstLevel + levels[k]) ++k;
-  const OmDimensionLayout& layout = *blocks_[k].layout;
+  const OmDimensionLayout& layout = *positionIndex.layout(k);
   const std::size_t label = on - blocks_[k].firstLevel + blocks_[k].firstLabel;
   const auto labelOf = [&](std::uint64_t leaf) {
     return leaf < layout.size() ? layout.label(leaf, label) : nullptr;
@@ -141,16 +130,17 @@ std::deque<OmDisplayAxisData::ConstNode*> OmDisplayAxisData::categories(int plac
   std::deque<ConstNode*> result(blocks_.size());
   std::uint64_t position = 0;
   if (!positionOf(place, position)) return result;
-  visitLeaves(position, [&](std::size_t k, const OmDimensionLayout& layout, std::size_t leaf) {
-    result[k] = &layout.path(leaf)->node;
-  });
+  positionIndex.visitLeaves(position,
+                            [&](std::size_t k, const OmDimensionLayout& layout, std::size_t leaf) {
+                              result[k] = &layout.path(leaf)->node;
+                            });
   return result;
 }
 
 void OmDisplayAxisData::fill(std::vector<int>& index, int place) const {
   std::uint64_t position = 0;
   if (positionOf(place, position)) {
-    layers.fill(positionIndex, position, index);
+    positionIndex.fill(position, index);
   } else {
     index.resize(layers.layouts.size());
   }
@@ -159,20 +149,22 @@ void OmDisplayAxisData::fill(std::vector<int>& index, int place) const {
 void OmDisplayAxisData::appendPaths(int place, std::vector<ConstNode*>& out) const {
   std::uint64_t position = 0;
   positionOf(place, position);
-  visitLeaves(position, [&](std::size_t, const OmDimensionLayout& layout, std::size_t leaf) {
-    if (layout.isBelowRoot(leaf)) layout.appendPath(leaf, out);
-  });
+  positionIndex.visitLeaves(position,
+                            [&](std::size_t, const OmDimensionLayout& layout, std::size_t leaf) {
+                              if (layout.isBelowRoot(leaf)) layout.appendPath(leaf, out);
+                            });
 }
 
 void OmDisplayAxisData::appendEnds(int place, std::vector<ConstNode*>& roots,
                                    std::vector<ConstNode*>& leaves) const {
   std::uint64_t position = 0;
   positionOf(place, position);
-  visitLeaves(position, [&](std::size_t, const OmDimensionLayout& layout, std::size_t leaf) {
-    if (!layout.isBelowRoot(leaf)) return;
-    roots.push_back(&layout.root()->node);
-    leaves.push_back(&layout.path(leaf)->node);
-  });
+  positionIndex.visitLeaves(position,
+                            [&](std::size_t, const OmDimensionLayout& layout, std::size_t leaf) {
+                              if (!layout.isBelowRoot(leaf)) return;
+                              roots.push_back(&layout.root()->node);
+                              leaves.push_back(&layout.path(leaf)->node);
+                            });
 }
 
 const std::vector<unsigned long long>& OmDisplayAxisData::shownPositions() {

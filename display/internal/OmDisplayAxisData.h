@@ -51,7 +51,7 @@ class OmDisplayAxisData {
   PuppetVector<short> axisDimensions;
   std::vector<const OmCellText*> cornerTexts;
   std::vector<unsigned long long> nonEmpty;
-  MultiBase positionIndex;
+  AxisIndex positionIndex;
   std::vector<std::uint16_t> levels;
   std::uint64_t positionCount;
   std::uint32_t totalLevels = 0;
@@ -59,8 +59,7 @@ class OmDisplayAxisData {
  private:
   // What a dimension contributes to the labels of a place.
   struct Block {
-    const OmDimensionLayout* layout;  // null for an axis entry without a dimension
-    std::size_t firstLabel;           // 1 when the root's label stands in the corner
+    std::size_t firstLabel;  // 1 when the root's label stands in the corner
     std::size_t firstLevel;
   };
 
@@ -68,8 +67,6 @@ class OmDisplayAxisData {
   bool enterNames();
 
   bool positionOf(int place, std::uint64_t& position) const;
-  template <class Visit>
-  void visitLeaves(std::uint64_t position, const Visit& visit) const;
 
   std::vector<Block> blocks_;
 };

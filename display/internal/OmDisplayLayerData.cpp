@@ -10,12 +10,11 @@ OmDisplayLayerData::OmDisplayLayerData(OmPivotTable& pivotTable, bool skip)
       layerDimensions(pivotTable.Layers()),
       census(takeCensus(pivotTable)) {
   layerDimensions.reverse();
-  layerIndex = MultiBase(layerDimensions, table->SizeVector());
-  digits.reserve(layerIndex.size());
   layouts.reserve(table->NDimensions());
   for (std::size_t d = 0; d < table->NDimensions(); ++d) {
     layouts.push_back(new (*this) OmDimensionLayout(*this, table->Dimension(static_cast<int>(d))));
   }
+  layerIndex = AxisIndex(layerDimensions, table->SizeVector(), layouts);
   // An entry that designates no dimension is passed over, so that later layouts move up.
   for (const short dimension : layerDimensions) {
     const auto which = static_cast<std::size_t>(dimension);
@@ -46,21 +45,9 @@ OmDisplayLayerData::Category OmDisplayLayerData::currentCategory(
       headingPosition >= layerLayouts.size()) {
     return {nullptr, 0};
   }
-  layerIndex.decode(position, digits);
   const OmDimensionLayout* const layout = layerLayouts[headingPosition];
-  const std::uint64_t leaf = digits[headingPosition];
+  const std::uint64_t leaf = layerIndex.digitsOf(position)[headingPosition];
   return {leaf < layout->size() ? layout : nullptr, leaf};
-}
-
-void OmDisplayLayerData::fill(const MultiBase& axis, std::uint64_t position,
-                              std::vector<int>& index) const {
-  index.resize(layouts.size());
-  axis.decode(position, digits);
-  for (std::size_t k = 0; k < axis.size(); ++k) {
-    const OmDimensionLayout* const layout = layoutOf(axis.dimension(k));
-    if (layout == nullptr || digits[k] >= layout->size()) continue;
-    index[static_cast<std::size_t>(axis.dimension(k))] = layout->positionToSubscript(digits[k]);
-  }
 }
 
 }  // namespace om::internal

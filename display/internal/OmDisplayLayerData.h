@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "backend/tables/MultiBase.h"
 #include "backend/tables/PuppetVector.h"
 #include "display/OmDisplayLayerHeading.h"
+#include "display/internal/AxisIndex.h"
 #include "display/internal/EmptinessScan.h"
 #include "display/internal/OmDimensionLayout.h"
 #include "external/cells/OmMemoryRegion.h"
@@ -38,10 +38,6 @@ class OmDisplayLayerData : public OmMemoryRegion {
   };
   Category currentCategory(std::size_t headingPosition) const;
 
-  // Writes the subscripts of the categories at a position of an axis into a cell index, after
-  // sizing it. A category without a leaf leaves the index entry.
-  void fill(const MultiBase& axis, std::uint64_t position, std::vector<int>& index) const;
-
   OmPivotTable* const table;
   const bool skipEmpty;
   std::vector<int> currentCellIndex;
@@ -52,8 +48,7 @@ class OmDisplayLayerData : public OmMemoryRegion {
   CellCensus census;
   std::uint64_t layerCount;
   std::int64_t currentLayer = -1;
-  MultiBase layerIndex;
-  mutable MultiBase::Digits digits;  // of the position that was decoded last, to have room for it
+  AxisIndex layerIndex;
 };
 
 // The way for tests into what the headings do not show.

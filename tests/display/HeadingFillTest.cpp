@@ -159,7 +159,7 @@ TEST(HeadingFill, SkippingOnAllAxesLeavesNoEmptyLayerRowOrColumn) {
                                     .cells = {{2, 0, 0}, {0, 2, 2}, {2, 1, 2}}});
   OmDisplayLayerHeading layers(*table, true);
   std::string body;
-  while (layers.NextLayer()) {
+  for (int layer = 0; layers.SwitchLayer(layer); ++layer) {
     body += bodyOf(layers, OmDisplayRowHeading(layers, true, false),
                    OmDisplayColumnHeading(layers, true)) +
             "\n\n";
