@@ -23,11 +23,11 @@ std::size_t columnOf(const CsvReader& reader, const std::string& name) {
   const std::vector<std::string>& header = reader.header();
   const auto found = std::find(header.begin(), header.end(), name);
   if (found == header.end()) {
-    throw usageFailure(printable(reader.file()) + ": there is no column " + quoted(name) +
+    throw usageFailure(printable(reader.file()) + ": there is no column " + inQuotes(name) +
                        "; the columns are " + listOf(header));
   }
   if (std::find(found + 1, header.end(), name) != header.end()) {
-    throw CsvReader::fault(reader.file(), 0, 1, quoted(name), "the header has it twice");
+    throw CsvReader::fault(reader.file(), 0, 1, inQuotes(name), "the header has it twice");
   }
   return static_cast<std::size_t>(found - header.begin());
 }
@@ -114,7 +114,8 @@ bool Counter::number(const RecordBatch& batch, std::size_t record, std::size_t f
   if (text.empty()) return false;
   if (parseNumber(text, number)) return true;
   throw CsvReader::fault(reader_.file(), batch.recordNumber(record), batch.lineNumber(record),
-                         quoted(name), std::string(kind) + " " + quoted(text) + " is no number");
+                         inQuotes(name),
+                         std::string(kind) + " " + inQuotes(text) + " is no number");
 }
 
 void Counter::count(const RecordBatch& batch) {
@@ -132,8 +133,8 @@ void Counter::count(const RecordBatch& batch) {
       if (weight.value < 0) {
         throw CsvReader::fault(
             reader_.file(), batch.recordNumber(record), batch.lineNumber(record),
-            quoted(request_.weight),
-            "the weight " + quoted(batch.field(record, width + measures)) + " is below 0");
+            inQuotes(request_.weight),
+            "the weight " + inQuotes(batch.field(record, width + measures)) + " is below 0");
       }
     }
     for (std::size_t i = 0; i < measures; ++i) {

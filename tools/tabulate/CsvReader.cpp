@@ -148,7 +148,7 @@ inline void CsvReader::State::onRecord() {
 }
 
 std::string CsvReader::State::columnName(std::size_t at) const {
-  return !inHeader && at < header.size() ? quoted(header[at]) : std::to_string(at + 1);
+  return !inHeader && at < header.size() ? inQuotes(header[at]) : std::to_string(at + 1);
 }
 
 void CsvReader::State::failInPresentRecord(std::string_view reason) {

@@ -48,7 +48,7 @@ void Decoder::open(const std::string& encoding) {
   const bool plain =
       !encoding.empty() && encoding.find_first_of(std::string_view("/,\0", 3)) == encoding.npos;
   if (plain) converter_ = iconv_open("UTF-8", encoding.c_str());
-  if (converter_ == none()) throw usageFailure("there is no encoding " + quoted(encoding));
+  if (converter_ == none()) throw usageFailure("there is no encoding " + inQuotes(encoding));
 }
 
 void Decoder::close() {

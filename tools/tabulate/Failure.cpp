@@ -30,6 +30,6 @@ std::string printable(std::string_view text, std::size_t limit) {
   return result;
 }
 
-std::string quoted(std::string_view text) { return '"' + printable(text, 60) + '"'; }
+std::string inQuotes(std::string_view text) { return '"' + printable(text, 60) + '"'; }
 
 }  // namespace om::tabulate

@@ -34,7 +34,7 @@ inline Failure dataFailure(const std::string& text) { return {ExitCode::DATA, te
 // "..." in place of what is beyond the first `limit` bytes or so.
 std::string printable(std::string_view text, std::size_t limit = 200);
 // The same in quotes, at most 60 bytes.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 
 }  // namespace om::tabulate
 

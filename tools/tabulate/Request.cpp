@@ -17,7 +17,7 @@ void TableRequest::check() const {
   std::set<std::string> used;
   const auto use = [&used](const std::string& column) {
     if (!used.insert(column).second) {
-      throw usageFailure("the variable " + quoted(column) + " is given twice");
+      throw usageFailure("the variable " + inQuotes(column) + " is given twice");
     }
   };
   for (const Axis axis : kAxes) {

@@ -39,6 +39,9 @@ using DimensionRequest = std::vector<std::string>;
 template <class T>
 class PerAxis {
  public:
+  PerAxis() = default;
+  PerAxis(T rows, T columns, T layers) : values_{rows, columns, layers} {}
+
   T& operator[](Axis axis) { return values_[static_cast<std::size_t>(axis)]; }
   const T& operator[](Axis axis) const { return values_[static_cast<std::size_t>(axis)]; }
 
