@@ -6,6 +6,7 @@
 #include "tools/tabulate/CsvReader.h"
 #include "tools/tabulate/Failure.h"
 #include "tools/tabulate/Number.h"
+#include "tools/tabulate/ReadAhead.h"
 
 namespace om::tabulate {
 
@@ -175,10 +176,10 @@ Counted countRecords(std::istream& stream, const std::string& file, const TableR
                      const std::function<void(std::uint64_t)>& advanced) {
   CsvReader reader(stream, file, request.encoding);
   Counter counter(reader, request);
-  RecordBatch batch;
-  while (reader.next(batch)) {
-    counter.count(batch);
-    advanced(batch.bytesRead());
+  ReadAhead batches(reader);
+  while (const RecordBatch* const batch = batches.next()) {
+    counter.count(*batch);
+    advanced(batch->bytesRead());
   }
   return counter.take();
 }

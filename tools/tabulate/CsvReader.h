@@ -40,8 +40,7 @@ class RecordBatch {
   // REQUIRES: record < size(), field < the number of fields selected.
   std::string_view field(std::size_t record, std::size_t field) const {
     const std::size_t at = record * width_ + positions_[field];
-    const std::size_t begin = at == 0 ? 0 : ends_[at - 1];
-    return {characters_.data() + begin, ends_[at] - begin};
+    return {characters_.data() + ends_[at], ends_[at + 1] - ends_[at]};
   }
   // The number of a record in the file, from 1.
   std::uint64_t recordNumber(std::size_t record) const { return start_.records + record; }
@@ -54,7 +53,7 @@ class RecordBatch {
   friend class CsvReader;
 
   std::string characters_;
-  std::vector<std::size_t> ends_;       // where each field ends in characters_
+  std::vector<std::uint32_t> ends_{0};  // where each field ends in characters_, behind a 0
   std::vector<std::size_t> positions_;  // of the fields among the width_ ones of a record
   std::size_t width_ = 0;
   std::size_t records_ = 0;

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -68,10 +67,8 @@ std::string dataName(const Json& value) {
 }
 
 std::int64_t limit(const Json& value) {
-  if (!value.is_number_integer() || (value.is_number_unsigned() && value > INT64_MAX)) {
-    throw usageFailure("a whole number is needed");
-  }
-  return value.get<std::int64_t>();
+  if (!value.is_number_integer()) throw usageFailure("a whole number is needed");
+  return words::count(value.dump());
 }
 
 int layer(const Json& value) {
@@ -79,45 +76,44 @@ int layer(const Json& value) {
   return words::layer(text(value));
 }
 
-using Use = std::function<void(JobTable&, const Json&)>;
+struct Key {
+  const char* name;
+  void (*use)(JobTable&, const Json&);
+};
 
-const std::map<std::string, Use>& keys() {
-  static const std::map<std::string, Use> kKeys{
-      {"data", [](JobTable& t, const Json& v) { t.request.data = dataName(v); }},
-      {"encoding", [](JobTable& t, const Json& v) { t.request.encoding = text(v); }},
-      {"rows",
-       [](JobTable& t, const Json& v) { t.request.dimensions[Axis::ROWS] = dimensions(v); }},
-      {"columns",
-       [](JobTable& t, const Json& v) { t.request.dimensions[Axis::COLUMNS] = dimensions(v); }},
-      {"layers",
-       [](JobTable& t, const Json& v) { t.request.dimensions[Axis::LAYERS] = dimensions(v); }},
-      {"weight", [](JobTable& t, const Json& v) { t.request.weight = name(v); }},
-      {"measure", [](JobTable& t, const Json& v) { t.request.measures = texts(v); }},
-      {"statistics",
-       [](JobTable& t, const Json& v) {
-         for (const std::string& word : texts(v)) {
-           t.request.statistics.push_back(words::statistic(word));
-         }
-       }},
-      {"statistics-on",
-       [](JobTable& t, const Json& v) { t.request.statisticsOn = words::axis(text(v)); }},
-      {"totals", [](JobTable& t, const Json& v) { t.request.totals = words::axes(texts(v)); }},
-      {"missing", [](JobTable& t, const Json& v) { t.request.missing = words::missing(text(v)); }},
-      {"order", [](JobTable& t, const Json& v) { t.request.order = words::order(text(v)); }},
-      {"title", [](JobTable& t, const Json& v) { t.request.title = text(v); }},
-      {"caption", [](JobTable& t, const Json& v) { t.request.caption = text(v); }},
-      {"notes", [](JobTable& t, const Json& v) { t.request.notes = texts(v); }},
-      {"max-cells", [](JobTable& t, const Json& v) { t.request.maxCells = limit(v); }},
-      {"skip-empty",
-       [](JobTable& t, const Json& v) { t.rendering.skipEmpty = words::axes(texts(v)); }},
-      {"names-in-corner",
-       [](JobTable& t, const Json& v) {
-         if (!v.is_boolean()) throw usageFailure("true or false is needed");
-         t.rendering.namesInCorner = v.get<bool>();
-       }},
-      {"layer", [](JobTable& t, const Json& v) { t.rendering.layer = layer(v); }}};
-  return kKeys;
-}
+constexpr Key kKeys[] = {
+    {"data", [](JobTable& t, const Json& v) { t.request.data = dataName(v); }},
+    {"encoding", [](JobTable& t, const Json& v) { t.request.encoding = text(v); }},
+    {"rows", [](JobTable& t, const Json& v) { t.request.dimensions[Axis::ROWS] = dimensions(v); }},
+    {"columns",
+     [](JobTable& t, const Json& v) { t.request.dimensions[Axis::COLUMNS] = dimensions(v); }},
+    {"layers",
+     [](JobTable& t, const Json& v) { t.request.dimensions[Axis::LAYERS] = dimensions(v); }},
+    {"weight", [](JobTable& t, const Json& v) { t.request.weight = name(v); }},
+    {"measure", [](JobTable& t, const Json& v) { t.request.measures = texts(v); }},
+    {"statistics",
+     [](JobTable& t, const Json& v) {
+       for (const std::string& word : texts(v)) {
+         t.request.statistics.push_back(words::statistic(word));
+       }
+     }},
+    {"statistics-on",
+     [](JobTable& t, const Json& v) { t.request.statisticsOn = words::axis(text(v)); }},
+    {"totals", [](JobTable& t, const Json& v) { t.request.totals = words::axes(texts(v)); }},
+    {"missing", [](JobTable& t, const Json& v) { t.request.missing = words::missing(text(v)); }},
+    {"order", [](JobTable& t, const Json& v) { t.request.order = words::order(text(v)); }},
+    {"title", [](JobTable& t, const Json& v) { t.request.title = text(v); }},
+    {"caption", [](JobTable& t, const Json& v) { t.request.caption = text(v); }},
+    {"notes", [](JobTable& t, const Json& v) { t.request.notes = texts(v); }},
+    {"max-cells", [](JobTable& t, const Json& v) { t.request.maxCells = limit(v); }},
+    {"skip-empty",
+     [](JobTable& t, const Json& v) { t.rendering.skipEmpty = words::axes(texts(v)); }},
+    {"names-in-corner",
+     [](JobTable& t, const Json& v) {
+       if (!v.is_boolean()) throw usageFailure("true or false is needed");
+       t.rendering.namesInCorner = v.get<bool>();
+     }},
+    {"layer", [](JobTable& t, const Json& v) { t.rendering.layer = layer(v); }}};
 
 // Refuses what the parser would let pass: a key that an object has twice, of which it keeps one,
 // and nesting beyond what a job has.
@@ -152,6 +148,8 @@ Json parseJson(const std::string& source) {
     const std::size_t column = before.size() - (lineEnd == before.npos ? 0 : lineEnd + 1) + 1;
     throw usageFailure("it is no JSON at line " + std::to_string(line) + ", byte " +
                        std::to_string(column));
+  } catch (const Json::out_of_range&) {
+    throw usageFailure("it holds a number that is out of range");
   }
 }
 
@@ -159,10 +157,11 @@ JobTable parseTable(const Json& value) {
   if (!value.is_object()) throw usageFailure("an object is needed");
   JobTable table;
   for (const auto& [key, content] : value.items()) {
-    const auto known = keys().find(key);
-    if (known == keys().end()) throw usageFailure("there is no key " + inQuotes(key));
+    const auto* const known = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                           [&](const Key& k) { return key == k.name; });
+    if (known == std::end(kKeys)) throw usageFailure("there is no key " + inQuotes(key));
     try {
-      known->second(table, content);
+      known->use(table, content);
     } catch (const Failure& failure) {
       throw usageFailure(inQuotes(key) + ": " + failure.what());
     }

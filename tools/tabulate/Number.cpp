@@ -20,10 +20,10 @@ std::size_t digitsAt(std::string_view text, std::size_t at) {
 }  // namespace
 
 bool parseNumber(std::string_view text, Number& number) {
-  if (text.starts_with('+')) text.remove_prefix(1);
-  const std::size_t sign = text.starts_with('-') ? 1 : 0;
-  // Keeps out the words and the second sign that from_chars would make something of.
+  const std::size_t sign = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+  // Keeps out the words that from_chars would make something of, and a second sign.
   if (text.size() <= sign || (!isDigit(text[sign]) && text[sign] != '.')) return false;
+  if (text[0] == '+') text.remove_prefix(1);
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number.value);
   if (error != std::errc() || stop != end || !std::isfinite(number.value)) return false;

@@ -32,21 +32,28 @@ class Setup {
  public:
   Setup(CLI::App& app, Options& options) : app_(app), options_(options) {
     app.set_help_flag("-h,--help", "Print this and end");
-    app.set_version_flag("--version", std::string(kVersion));
+    app.set_version_flag("--version", std::string(kVersion), "Print the version and end");
     app.get_formatter()->column_width(30);
   }
 
-  CLI::Option* text(const char* name, const char* type, const char* what,
-                    std::function<void(const std::string&)> use) {
+  // An option with a text, which is used at once; `often`: it may be given more than once.
+  void text(const char* name, const char* type, const char* what,
+            std::function<void(const std::string&)> use, bool often = false) {
     const std::string longName = std::string(name).substr(std::string(name).find("--"));
-    const auto named = [longName, use = std::move(use)](const std::string& value) {
+    const auto named = [longName, often, given = false,
+                        use = std::move(use)](const std::string& value) mutable {
+      if (given && !often) throw usageFailure(longName + " is given twice");
+      given = true;
       try {
         use(value);
       } catch (const Failure& failure) {
         throw usageFailure(longName + ": " + failure.what());
       }
     };
-    return app_.add_option_function<std::string>(name, named, what)->type_name(type);
+    app_.add_option_function<std::string>(name, named, what)
+        ->type_name(type)
+        ->trigger_on_parse()
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   }
 
   void common() {
@@ -116,24 +123,21 @@ void setUpTable(Setup& setup, CLI::App& app, Options& options) {
                    words::axes(value == "none" ? std::vector<std::string>() : words::list(value));
              });
   app.add_flag("--names-in-corner", rendering.namesInCorner,
-               "Put the names of row dimensions in the corner");
+               "Put the names of row dimensions in the corner")
+      ->disable_flag_override();
   setup.text("--layer", "N", "The layer to show, from 1, or all (default)",
              [&](const std::string& value) { rendering.layer = words::layer(value); });
   setup.text("--title", "TEXT", "The table's title",
              [&](const std::string& value) { request.title = value; });
   setup.text("--caption", "TEXT", "A caption below the table",
              [&](const std::string& value) { request.caption = value; });
-  // A vector of texts would take "[a,b]" apart.
-  app.add_option_function<std::string>(
-         "--note", [&](const std::string& value) { request.notes.push_back(value); },
-         "A footnote at the title; may be given several times")
-      ->type_name("TEXT")
-      ->trigger_on_parse()
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+  setup.text(
+      "--note", "TEXT", "A footnote at the title; may be given several times",
+      [&](const std::string& value) { request.notes.push_back(value); }, true);
   setup.text("--encoding", "NAME", "Of the file, as iconv knows it (default UTF-8)",
              [&](const std::string& value) { request.encoding = value; });
-  app.add_option("--max-cells", request.maxCells, "Drop a table of more cells (default 10000000)")
-      ->type_name("N");
+  setup.text("--max-cells", "N", "Drop a table of more cells (default 10000000)",
+             [&](const std::string& value) { request.maxCells = words::count(value); });
 }
 
 void parse(CLI::App& app, std::vector<std::string> arguments, Options& options) {

@@ -15,6 +15,7 @@
 #include "tools/tabulate/Progress.h"
 #include "tools/tabulate/Rendering.h"
 #include "tools/tabulate/Report.h"
+#include "tools/tabulate/TableBuilder.h"
 
 namespace om::tabulate {
 
@@ -68,7 +69,7 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
   Report report;
   RenderingOptions rendering;
   rendering.terminalWidth = file ? 0 : surroundings.outWidth;
-  bool dropped = false;
+  std::string dropped;  // the titles of the tables that were
   Progress progress(surroundings.err, options.progress, surroundings.errIsTerminal);
   for (std::size_t i = 0; i < tables.size(); ++i) {
     std::vector<std::string> log{commandLine(arguments)};
@@ -77,8 +78,10 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
     }
     const Counted counted = count(tables[i].request, surroundings, progress);
     const OmPivotTable* const table = report.add(tables[i].request, counted, log);
-    dropped = dropped || table == nullptr;
-    if (table == nullptr) continue;
+    if (table == nullptr) {
+      dropped += (dropped.empty() ? "" : ", ") + inQuotes(titleOf(tables[i].request));
+      continue;
+    }
     checkLayer(*table, tables[i].rendering);
     rendering.special[table] = tables[i].rendering;
   }
@@ -95,10 +98,10 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
                         (errno != 0 ? std::strerror(errno) : "unknown reason"));
     }
   }
-  if (dropped) {
-    surroundings.err << "tabulate: a table was dropped, because it has more cells than allowed\n";
-  }
-  return dropped ? ExitCode::DROPPED : ExitCode::DONE;
+  if (dropped.empty()) return ExitCode::DONE;
+  surroundings.err << "tabulate: dropped for having more cells than --max-cells: " << dropped
+                   << '\n';
+  return ExitCode::DROPPED;
 }
 
 }  // namespace

@@ -44,7 +44,6 @@ void TableRequest::check() const {
       std::none_of(statistics.begin(), statistics.end(), ofMeasure)) {
     throw usageFailure("there is a measure, but no statistic of it");
   }
-  if (maxCells < 1) throw usageFailure("the limit of cells is below 1");
 }
 
 }  // namespace om::tabulate

@@ -63,14 +63,14 @@ struct TableRequest {
   std::string title;  // empty: made up from the names
   std::string caption;
   std::vector<std::string> notes;
-  std::int64_t maxCells = 10'000'000;
+  std::int64_t maxCells = 10'000'000;  // 1 or more
 
   // The statistics asked for, or those that suit: the count, or n, mean and sd of each measure.
   std::vector<Statistic> effectiveStatistics() const;
 
   // Throws Failure (usage) where the parts do not go together: no dimension, the same variable
   // twice among dimensions and weight or among the measures, statistics of measures without a
-  // measure and the other way round, a statistic twice, a limit below 1.
+  // measure and the other way round, a statistic twice.
   void check() const;
 };
 

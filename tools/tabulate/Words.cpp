@@ -21,6 +21,14 @@ T choose(const std::string& word, const std::array<std::pair<const char*, T>, kC
   throw usageFailure(inQuotes(word) + " is none of " + list);
 }
 
+// False unless the word is a number from 1 that the type holds.
+template <class T>
+bool wholeNumber(const std::string& word, T& number) {
+  const char* const end = word.data() + word.size();
+  const auto [stop, error] = std::from_chars(word.data(), end, number);
+  return error == std::errc() && stop == end && number >= 1;
+}
+
 // Splits at commas, and within them at slashes if told so.
 std::vector<std::vector<std::string>> split(const std::string& text, bool atSlashes) {
   std::vector<std::vector<std::string>> result{{""}};
@@ -95,12 +103,16 @@ PerAxis<bool> axes(const std::vector<std::string>& words) {
   return result;
 }
 
+std::int64_t count(const std::string& word) {
+  std::int64_t number = 0;
+  if (!wholeNumber(word, number)) throw usageFailure(inQuotes(word) + " is no number from 1");
+  return number;
+}
+
 int layer(const std::string& word) {
   if (word == "all") return TableRendering::kAllLayers;
   int number = 0;
-  const char* const end = word.data() + word.size();
-  const auto [stop, error] = std::from_chars(word.data(), end, number);
-  if (error != std::errc() || stop != end || number < 1) {
+  if (!wholeNumber(word, number)) {
     throw usageFailure(inQuotes(word) + " is neither a number from 1 nor all");
   }
   return number - 1;

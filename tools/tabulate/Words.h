@@ -3,6 +3,7 @@
 #ifndef OM_TOOLS_TABULATE_WORDS_H_
 #define OM_TOOLS_TABULATE_WORDS_H_
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ Progress::When when(const std::string& word);
 
 // Sets the axes named, and clears the others. Throws for an axis that is named twice.
 PerAxis<bool> axes(const std::vector<std::string>& words);
+
+// A whole number from 1.
+std::int64_t count(const std::string& word);
 
 // The number of a layer from 1, or "all".
 int layer(const std::string& word);
