@@ -1,5 +1,6 @@
 #include "tools/tabulate/OutputFile.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,7 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <vector>
+#include <utility>
 
 #include "tools/tabulate/Failure.h"
 
@@ -44,56 +45,65 @@ mode_t modeFor(const std::string& place) {
   return 0666 & ~mask;
 }
 
+// For the reason in errno.
+Failure failure(const std::string& name) {
+  const int reason = errno;
+  return dataFailure(printable(name) + ": cannot be written: " + std::strerror(reason));
+}
+
 }  // namespace
 
 OutputFile::OutputFile(const std::string& name) : name_(name), place_(name) {
-  std::error_code error;
-  if (std::filesystem::exists(name, error)) {
-    const std::filesystem::path real = std::filesystem::canonical(name, error);
-    if (!error) place_ = real.string();
-    if (std::filesystem::is_directory(place_, error)) fail(EISDIR);
-    if (!std::filesystem::is_regular_file(place_, error)) {
-      stream_.open(place_, std::ios::binary);
-      if (!stream_) fail(errno);
-      return;
-    }
-    // Who may not write to the file may not replace it either.
-    if (access(place_.c_str(), W_OK) != 0) fail(errno);
+  try {
+    open();
+  } catch (...) {
+    remove();
+    throw;
   }
-  std::string pattern = place_ + ".tmp-XXXXXX";
-  const int descriptor = mkstemp(pattern.data());
-  if (descriptor < 0) fail(errno);
-  temporary_ = pattern;
-  remember(temporary_);
-  fchmod(descriptor, modeFor(place_));
-  close(descriptor);
-  stream_.open(temporary_, std::ios::binary | std::ios::trunc);
-  if (!stream_) fail(errno);
 }
 
-OutputFile::~OutputFile() {
-  if (temporary_.empty()) return;
-  isUnfinished = 0;
-  unlink(temporary_.c_str());
+OutputFile::~OutputFile() { remove(); }
+
+void OutputFile::open() {
+  std::error_code error;
+  if (std::filesystem::exists(name_, error)) {
+    const std::filesystem::path real = std::filesystem::canonical(name_, error);
+    if (!error) place_ = real.string();
+    // Who may not write to the file may not replace it either.
+    if (access(place_.c_str(), W_OK) != 0) throw failure(name_);
+  }
+  if (std::filesystem::exists(place_, error) && !std::filesystem::is_regular_file(place_, error)) {
+    descriptor_ = ::open(place_.c_str(), O_WRONLY | O_CLOEXEC);
+    if (descriptor_ < 0) throw failure(name_);
+  } else {
+    std::string pattern = place_ + ".tmp-XXXXXX";
+    const mode_t mode = modeFor(place_);
+    descriptor_ = mkostemp(pattern.data(), O_CLOEXEC);
+    if (descriptor_ < 0) throw failure(name_);
+    temporary_.swap(pattern);
+    remember(temporary_);
+    fchmod(descriptor_, mode);
+  }
+  buffer_.emplace(descriptor_);
+  stream_.rdbuf(&*buffer_);
 }
 
 void OutputFile::commit() {
-  errno = 0;
-  stream_.close();
-  if (!stream_) fail(errno);
+  const bool written = buffer_->pubsync() == 0;
+  if (!written) throw failure(name_);
+  const bool closed = close(std::exchange(descriptor_, -1)) == 0;
+  if (!closed) throw failure(name_);
   if (temporary_.empty()) return;
-  if (std::rename(temporary_.c_str(), place_.c_str()) != 0) fail(errno);
+  if (std::rename(temporary_.c_str(), place_.c_str()) != 0) throw failure(name_);
   isUnfinished = 0;
   temporary_.clear();
 }
 
-void OutputFile::fail(int reason) const {
-  if (!temporary_.empty()) {
-    isUnfinished = 0;
-    unlink(temporary_.c_str());
-  }
-  throw dataFailure(printable(name_) + ": cannot be written: " +
-                    (reason != 0 ? std::strerror(reason) : "unknown reason"));
+void OutputFile::remove() {
+  if (descriptor_ >= 0) close(descriptor_);
+  if (temporary_.empty()) return;
+  isUnfinished = 0;
+  unlink(temporary_.c_str());
 }
 
 void OutputFile::removeOnSignals() {

@@ -11,9 +11,11 @@
 #ifndef OM_TOOLS_TABULATE_OUTPUTFILE_H_
 #define OM_TOOLS_TABULATE_OUTPUTFILE_H_
 
-#include <fstream>
+#include <optional>
 #include <ostream>
 #include <string>
+
+#include "tools/tabulate/DescriptorBuffer.h"
 
 namespace om::tabulate {
 
@@ -32,12 +34,15 @@ class OutputFile {
   static void removeOnSignals();
 
  private:
-  [[noreturn]] void fail(int reason) const;
+  void open();
+  void remove();
 
   std::string name_;       // for messages
   std::string place_;      // where it goes, symbolic links resolved
   std::string temporary_;  // empty when it is written directly
-  std::ofstream stream_;
+  int descriptor_ = -1;
+  std::optional<DescriptorBuffer> buffer_;
+  std::ostream stream_{nullptr};
 };
 
 }  // namespace om::tabulate

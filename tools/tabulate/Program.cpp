@@ -92,8 +92,10 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
   if (file) {
     file->commit();
   } else {
+    // A buffer that failed before fails again, and knows why.
     errno = 0;
-    if (!out.flush()) {
+    const bool flushed = out.rdbuf() != nullptr && out.rdbuf()->pubsync() == 0;
+    if (!out || !flushed) {
       throw dataFailure(std::string("standard output: cannot be written: ") +
                         (errno != 0 ? std::strerror(errno) : "unknown reason"));
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "tools/tabulate/DescriptorBuffer.h"
 #include "tools/tabulate/OutputFile.h"
 #include "tools/tabulate/Program.h"
 
@@ -23,8 +24,10 @@ int widthOfTerminal(int descriptor) {
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   om::tabulate::OutputFile::removeOnSignals();
+  om::tabulate::DescriptorBuffer buffer(STDOUT_FILENO);
+  std::ostream out(&buffer);
   const om::tabulate::Surroundings surroundings{
-      std::cin, std::cout, std::cerr, isatty(STDERR_FILENO) != 0, widthOfTerminal(STDOUT_FILENO)};
+      std::cin, out, std::cerr, isatty(STDERR_FILENO) != 0, widthOfTerminal(STDOUT_FILENO)};
   return static_cast<int>(
       om::tabulate::runProgram(std::vector<std::string>(argv + 1, argv + argc), surroundings));
 }
