@@ -1,7 +1,6 @@
 #include "tools/tabulate/Counting.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "tools/tabulate/CsvReader.h"
 #include "tools/tabulate/Failure.h"
@@ -11,8 +10,6 @@
 namespace om::tabulate {
 
 namespace {
-
-constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
 std::string listOf(const std::vector<std::string>& header) {
   std::string list;

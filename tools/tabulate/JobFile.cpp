@@ -115,6 +115,13 @@ constexpr Key kKeys[] = {
      }},
     {"layer", [](JobTable& t, const Json& v) { t.rendering.layer = layer(v); }}};
 
+const Key* findKey(const std::string& name) {
+  for (const Key& key : kKeys) {
+    if (name == key.name) return &key;
+  }
+  return nullptr;
+}
+
 // Refuses what the parser would let pass: a key that an object has twice, of which it keeps one,
 // and nesting beyond what a job has.
 class Guard {
@@ -157,9 +164,8 @@ JobTable parseTable(const Json& value) {
   if (!value.is_object()) throw usageFailure("an object is needed");
   JobTable table;
   for (const auto& [key, content] : value.items()) {
-    const auto* const known = std::find_if(std::begin(kKeys), std::end(kKeys),
-                                           [&](const Key& k) { return key == k.name; });
-    if (known == std::end(kKeys)) throw usageFailure("there is no key " + inQuotes(key));
+    const Key* const known = findKey(key);
+    if (known == nullptr) throw usageFailure("there is no key " + inQuotes(key));
     try {
       known->use(table, content);
     } catch (const Failure& failure) {

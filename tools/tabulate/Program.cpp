@@ -53,10 +53,20 @@ void checkLayer(const OmPivotTable& table, const TableRendering& rendering) {
   }
 }
 
+void flush(std::ostream& out) {
+  // A buffer that failed before fails again, and knows why.
+  errno = 0;
+  const bool flushed = out.rdbuf() != nullptr && out.rdbuf()->pubsync() == 0;
+  if (out && flushed) return;
+  throw dataFailure(std::string("standard output: cannot be written: ") +
+                    (errno != 0 ? std::strerror(errno) : "unknown reason"));
+}
+
 ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
   const Options options = parseOptions(arguments);
   if (!options.answer.empty()) {
-    surroundings.out << options.answer << std::flush;
+    surroundings.out << options.answer;
+    flush(surroundings.out);
     return ExitCode::DONE;
   }
   const std::vector<JobTable> tables =
@@ -92,13 +102,7 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
   if (file) {
     file->commit();
   } else {
-    // A buffer that failed before fails again, and knows why.
-    errno = 0;
-    const bool flushed = out.rdbuf() != nullptr && out.rdbuf()->pubsync() == 0;
-    if (!out || !flushed) {
-      throw dataFailure(std::string("standard output: cannot be written: ") +
-                        (errno != 0 ? std::strerror(errno) : "unknown reason"));
-    }
+    flush(out);
   }
   if (dropped.empty()) return ExitCode::DONE;
   surroundings.err << "tabulate: dropped for having more cells than --max-cells: " << dropped
