@@ -52,8 +52,10 @@ void ValueWeights::addEntry(Entry entry) {
 }
 
 void ValueWeights::compact(std::vector<Entry>& entries) {
-  std::stable_sort(entries.begin(), entries.end(),
-                   [](const Entry& a, const Entry& b) { return a.value < b.value; });
+  // By weight as well, so that sums do not hang on the order in which the numbers came.
+  std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+    return a.value != b.value ? a.value < b.value : a.weight < b.weight;
+  });
   std::size_t kept = 0;
   for (std::size_t i = 0; i < entries.size();) {
     CompensatedSum weight;

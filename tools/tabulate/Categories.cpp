@@ -62,19 +62,18 @@ void Categories::sort(Order order) {
       values[i] = number.value;
     }
   }
-  const auto byFirst = [this](std::size_t a, std::size_t b) {
-    return nodes_[a].first < nodes_[b].first;
-  };
-  const auto byLabel = [&](std::size_t a, std::size_t b) {
+  const auto precedes = [&](std::size_t a, std::size_t b) {
     const std::string_view left = nodes_[a].label;
     const std::string_view right = nodes_[b].label;
-    if (left.empty() || right.empty()) return left.empty() && !right.empty();
-    return numeric[levelOfNode_[a]] != 0 ? values[a] < values[b] : left < right;
+    if (order != Order::DATA) {
+      if (left.empty() != right.empty()) return left.empty();
+      const bool byValue = numeric[levelOfNode_[a]] != 0;
+      if (byValue && values[a] != values[b]) return values[a] < values[b];
+      if (!byValue && left != right) return left < right;
+    }
+    return nodes_[a].first < nodes_[b].first;
   };
-  for (Node& node : nodes_) {
-    std::sort(node.children.begin(), node.children.end(), byFirst);
-    if (order != Order::DATA) std::stable_sort(node.children.begin(), node.children.end(), byLabel);
-  }
+  for (Node& node : nodes_) std::sort(node.children.begin(), node.children.end(), precedes);
 }
 
 void Categories::addTotals() {

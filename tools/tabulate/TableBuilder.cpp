@@ -99,19 +99,21 @@ std::unique_ptr<OmPivotTable> TableBuilder::build() {
 
   // The store of the cells likes the densest dimension first, which is that of the statistics.
   if (hasStatistics()) addStatistics();
-  std::size_t level = counted_.dictionaries.size();
-  for (auto axis = kAxes.rbegin(); axis != kAxes.rend(); ++axis) {
-    const std::vector<DimensionRequest>& requests = request_.dimensions[*axis];
+  PerAxis<std::size_t> level;  // of the dictionaries behind those of the axis
+  std::size_t levels = 0;
+  for (const Axis axis : kAxes) {
+    for (const DimensionRequest& dimension : request_.dimensions[axis]) levels += dimension.size();
+    level[axis] = levels;
+  }
+  for (const Axis axis : {Axis::COLUMNS, Axis::ROWS, Axis::LAYERS}) {
+    const std::vector<DimensionRequest>& requests = request_.dimensions[axis];
     for (auto dimension = requests.rbegin(); dimension != requests.rend(); ++dimension) {
-      level -= dimension->size();
-      dimensions_.push_back(
-          {*axis, &*dimension,
-           Categories(counted_.tally, counted_.dictionaries, level, dimension->size(),
-                      request_.order, request_.totals[*axis])});
+      level[axis] -= dimension->size();
+      dimensions_.push_back({axis, &*dimension,
+                             Categories(counted_.tally, counted_.dictionaries, level[axis],
+                                        dimension->size(), request_.order, request_.totals[axis])});
     }
   }
-  std::stable_partition(dimensions_.begin(), dimensions_.end(),
-                        [](const Placed& placed) { return placed.axis != Axis::LAYERS; });
   for (const Placed& placed : dimensions_) addDimension(placed);
   fillAxes();
   fillCells();
