@@ -136,8 +136,9 @@ void Counter::count(const RecordBatch& batch) {
       }
     }
     for (std::size_t i = 0; i < measures; ++i) {
-      present_[i] =
+      const bool present =
           number(batch, record, width + i, counted_.measures[i].name, "the measure", numbers_[i]);
+      present_[i] = present ? 1 : 0;
     }
 
     const Tally::Code* const codes = codes_.data() + record * width;

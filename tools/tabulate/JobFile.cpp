@@ -57,7 +57,7 @@ std::vector<DimensionRequest> dimensions(const Json& value) {
 
 // A file in the job's folder or below it. "-" is the standard input.
 std::string dataName(const Json& value) {
-  const std::string file = name(value);
+  std::string file = name(value);
   const std::filesystem::path path(file);
   const bool climbs = std::find(path.begin(), path.end(), "..") != path.end();
   if (path.is_absolute() || path.has_root_name() || climbs || file.find('\0') != file.npos) {
