@@ -16,3 +16,6 @@ need_packages() {
 
 # What it takes to build the libraries.
 BUILD_PACKAGES=(g++ cmake ninja-build)
+
+# What the program takes besides.
+TOOL_PACKAGES=(libcsv-dev libcli11-dev nlohmann-json3-dev)
