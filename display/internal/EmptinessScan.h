@@ -24,11 +24,11 @@ CellCensus takeCensus(const OmPivotTable& table);
 
 // The positions of the axis, ascending, that hold a cell.
 //
-// In a table that is not sparse these are the positions with a cell at some position of `others` in
-// the layer of the current cell index. Where a category has no leaf, the subscript of the position
-// before stands, or of the current cell index. Takes O(1) for a position that holds a cell where
-// the position before has one, and otherwise looks at no more than the nodes of the cell store that
-// the position shares in.
+// In a table that is not sparse these are the positions with a cell at some position of `others`,
+// whose order does not matter, in the layer of the current cell index. Where a category has no
+// leaf, the subscript of the position before stands, or of the current cell index. Takes O(1) for a
+// position that holds a cell where the position before has one, and otherwise looks at no more than
+// the nodes of the cell store that the position shares in.
 //
 // In a sparse table these are the positions of all cells that an iteration meets, deliberately in
 // whatever layer. A cell is left out where its subscript is that of no leaf within the sizes.

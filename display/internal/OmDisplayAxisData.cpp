@@ -17,11 +17,7 @@ OmDisplayAxisData::OmDisplayAxisData(OmDisplayLayerData& layerHeading, bool skip
       axisDimensions(own) {
   axisDimensions.reverse();
   positionIndex = AxisIndex(axisDimensions, table->SizeVector(), layers.layouts);
-  if (skipEmpty) {
-    PuppetVector<short> others = other;
-    others.reverse();
-    nonEmpty = nonEmptyPositions(layers, positionIndex, others);
-  }
+  if (skipEmpty) nonEmpty = nonEmptyPositions(layers, positionIndex, other);
   positionCount = skipEmpty ? nonEmpty.size() : positionIndex.count();
 
   for (std::size_t k = 0; k < positionIndex.size(); ++k) {

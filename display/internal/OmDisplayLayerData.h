@@ -51,7 +51,7 @@ class OmDisplayLayerData : public OmMemoryRegion {
   AxisIndex layerIndex;
 };
 
-// The way for tests into what the headings do not show.
+// The way for column and row headings, and for tests, into what a heading does not show.
 struct DisplayInternals {
   template <class Heading>
   static auto& dataOf(const Heading& heading) {
