@@ -100,7 +100,8 @@ class TableRecords {
   }
 
   void writeCells() {
-    for (LayerWalk walk(table_, options_.tables); sink_.ok() && walk.next();) writeLayer(walk);
+    for (LayerWalk walk(table_, options_.tables.of(table_)); sink_.ok() && walk.next();)
+      writeLayer(walk);
   }
 
  private:

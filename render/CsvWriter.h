@@ -40,7 +40,7 @@
 namespace om::render {
 
 struct CsvOptions {
-  TableOptions tables = {};
+  DocumentTableOptions tables = {};
   std::string pathSeparator = "/";
   // Spreadsheet programs take a field for a formula that begins with one of =, +, -, @, a tab or a
   // line end, quoted or not. An apostrophe is put in front of such a field, and also where there

@@ -175,7 +175,7 @@ class Content : public PartWalk {
   void table(OmPivotTable& table, int) override {
     if (out().failed()) return;
     out().markup("<div class=\"part\" id=\"p").number(nextPart()).markup("\">\n");
-    internal::writeHtmlTable(out(), table, ++tables_, nameOf(table), options_.tables);
+    internal::writeHtmlTable(out(), table, ++tables_, nameOf(table), options_.tables.of(table));
     out().markup("</div>\n");
   }
 
@@ -302,7 +302,8 @@ void writeHtml(OmPivotTable& table, std::ostream& out, const HtmlOptions& option
   beginContent(page, options);
   const std::string title(titleOf(table));
   page.markup("<div class=\"part\">\n");
-  internal::writeHtmlTable(page, table, 1, isBlank(title) ? "Table" : title, options.tables);
+  internal::writeHtmlTable(page, table, 1, isBlank(title) ? "Table" : title,
+                           options.tables.of(table));
   page.markup("</div>\n");
   endPage(page);
 }

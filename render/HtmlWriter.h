@@ -18,7 +18,7 @@
 namespace om::render {
 
 struct HtmlOptions {
-  TableOptions tables;
+  DocumentTableOptions tables = {};
   std::string title = "Output";  // of the page
   std::string language = "en";   // a BCP 47 tag
 };

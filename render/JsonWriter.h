@@ -16,7 +16,7 @@
 namespace om::render {
 
 struct JsonOptions {
-  TableOptions tables = {};
+  DocumentTableOptions tables = {};
   // For each layer also its corner and the spans of its headings, for programs that draw it.
   bool grid = false;
 };

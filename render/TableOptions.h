@@ -3,6 +3,8 @@
 #ifndef OM_RENDER_TABLEOPTIONS_H_
 #define OM_RENDER_TABLEOPTIONS_H_
 
+#include <map>
+
 #include "render/Export.h"
 #include "render/FootnoteMarks.h"
 #include "render/TableView.h"
@@ -21,6 +23,16 @@ struct TableOptions {
   Layers layers = Layers::ALL;
   int layer = 0;  // counts from 0 among the layers that are not skipped
   Marks marks = Marks::LETTERS;
+};
+
+// The same for all tables of a document that are not among the special ones.
+struct DocumentTableOptions : TableOptions {
+  std::map<const OmPivotTable*, TableOptions> special = {};
+
+  const TableOptions& of(const OmPivotTable& table) const {
+    const auto own = special.find(&table);
+    return own != special.end() ? own->second : *this;
+  }
 };
 
 // The layers of a table that the options ask for, one after the other.

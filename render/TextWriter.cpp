@@ -59,15 +59,17 @@ std::string expandTabs(std::string_view text) {
 
 class TableWriter {
  public:
-  TableWriter(TextPage& page, const TableOptions& options) : page_(page), options_(options) {}
+  TableWriter(TextPage& page, const DocumentTableOptions& options)
+      : page_(page), options_(options) {}
 
   void write(OmPivotTable& table) {
-    LayerWalk walk(table, options_);
+    const TableOptions& options = options_.of(table);
+    LayerWalk walk(table, options);
     if (walk.count() == 0) {
       page_.beginBlock();
       std::string room;
       page_.paragraph(internal::plainText(std::string(titleOf(table)), room));
-      page_.paragraph(options_.layers == Layers::ONE ? "(no such layer)" : kNoCells);
+      page_.paragraph(options.layers == Layers::ONE ? "(no such layer)" : kNoCells);
     }
     while (page_.sink().ok() && walk.next()) writeLayer(walk.view(), walk.marks());
   }
@@ -131,7 +133,7 @@ class TableWriter {
   }
 
   TextPage& page_;
-  const TableOptions& options_;
+  const DocumentTableOptions& options_;
 };
 
 class TextWriter : public DocumentWalk {

@@ -18,7 +18,7 @@
 namespace om::render {
 
 struct TextOptions {
-  TableOptions tables = {};
+  DocumentTableOptions tables = {};
   // Terminal columns, as counted for grapheme clusters; 0: as wide as it needs.
   std::size_t width = 80;
   bool ascii = false;  // lines of tables from "+", "-" and "|"

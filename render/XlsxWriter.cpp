@@ -26,7 +26,8 @@ constexpr double kMostWidth = 40;
 
 class SheetCount : public DocumentWalk {
  public:
-  SheetCount(const OmOutputTree& document, const TableOptions& options) : options_(options) {
+  SheetCount(const OmOutputTree& document, const DocumentTableOptions& options)
+      : options_(options) {
     walk(document);
   }
   std::uint64_t count() const { return count_; }
@@ -37,10 +38,10 @@ class SheetCount : public DocumentWalk {
   void text(Kind, const OmTextBlock&, int) override {}
   void object(const Object&, int) override {}
   void table(OmPivotTable& table, int) override {
-    count_ += std::max<std::uint64_t>(LayerWalk(table, options_).count(), 1);
+    count_ += std::max<std::uint64_t>(LayerWalk(table, options_.of(table)).count(), 1);
   }
 
-  const TableOptions& options_;
+  const DocumentTableOptions& options_;
   std::uint64_t count_ = 0;
 };
 
@@ -220,7 +221,7 @@ class XlsxDocument : public DocumentWalk {
   void table(OmPivotTable& table, int) override {
     const std::string number = std::to_string(++tables_);
     const std::string title(titleOf(table));
-    LayerWalk walk(table, options_.tables);
+    LayerWalk walk(table, options_.tables.of(table));
     if (walk.count() == 0) Sheet(workbook_, internal::xlsxSheetName(number, title)).write(table);
     for (int layer = 1; walk.next(); ++layer) {
       const std::string which = walk.count() > 1 ? number + '.' + std::to_string(layer) : number;

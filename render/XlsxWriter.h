@@ -26,7 +26,7 @@
 namespace om::render {
 
 struct XlsxOptions {
-  TableOptions tables = {};
+  DocumentTableOptions tables = {};
 };
 
 // Whether this build can write workbooks: the library for it is optional.

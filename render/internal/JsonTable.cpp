@@ -32,7 +32,7 @@ class JsonTable {
     writeJsonFootnotes(std::as_const(table_).Footnotes(), json_);
     json_.key("layers");
     json_.beginArray();
-    for (LayerWalk walk(table_, options_.tables); json_.ok() && walk.next();) writeLayer(walk);
+    for (LayerWalk walk(table_, options_.tables.of(table_)); json_.ok() && walk.next();) writeLayer(walk);
     json_.end();
     json_.end();
   }

@@ -98,6 +98,16 @@ TEST(LayerWalk, ViewAndMarksFollowTheOptions) {
   EXPECT_EQ(walk.marks().notes().at(0).mark, "1");
 }
 
+TEST(DocumentTableOptions, ATableOfItsOwnWaysIsShownByThem) {
+  const SampleTable table = fourLayers();
+  const SampleTable other = fourLayers();
+  render::DocumentTableOptions options;
+  options.layers = Layers::STORED;
+  options.special[&*table].layers = Layers::ALL;
+  EXPECT_EQ(options.of(*table).layers, Layers::ALL);
+  EXPECT_EQ(options.of(*other).layers, Layers::STORED);
+}
+
 TEST(LayerWalk, TheTitleIsTheTableTitleOrElseTheLabel) {
   const SampleTable table = sampleTable("Label");
   EXPECT_EQ(std::string(render::titleOf(*table)), "Label");
