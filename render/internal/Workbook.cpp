@@ -37,7 +37,7 @@ Workbook::~Workbook() {
 }
 
 void Workbook::fail(const std::string& reason) const {
-  throw std::runtime_error(path_ + ": " + reason);
+  throw std::runtime_error("cannot be written: " + reason);
 }
 
 void Workbook::check(lxw_error error) const {

@@ -64,12 +64,25 @@ class Setup {
          });
     text("-o,--output", "FILE", "Write to FILE, whole or not at all",
          [this](const std::string& value) { options_.output = value; });
+    text("--width", "N", "Columns of text, 0 for as many as it takes (default: the terminal's)",
+         [this](const std::string& value) { options_.width = words::width(value); });
+    app_.add_flag("--ascii", options_.ascii, "Draw the lines of text in ASCII")
+        ->disable_flag_override();
     text("--progress", "WHEN", "auto (on a terminal), always or never",
          [this](const std::string& value) { options_.progress = words::when(value); });
   }
 
   void finish() {
-    if (formatGiven_) return;
+    if (!formatGiven_) chooseFormat();
+    checkFormat(options_.format);
+    if (isWorkbook(options_.format) && options_.output.empty()) {
+      throw usageFailure("xlsx needs a file to go to; see -o");
+    }
+  }
+
+ private:
+  // By the ending of the file.
+  void chooseFormat() {
     const std::string& file = options_.output;
     for (const auto& [ending, format] :
          {std::pair{".html", OutputFormat::HTML}, std::pair{".csv", OutputFormat::CSV},
@@ -78,7 +91,6 @@ class Setup {
     }
   }
 
- private:
   CLI::App& app_;
   Options& options_;
   bool formatGiven_ = false;
@@ -164,7 +176,7 @@ Options parseOptions(const std::vector<std::string>& arguments) {
     setup.common();
     app.footer(kJobFooter);
     parse(app, {arguments.begin() + 1, arguments.end()}, options);
-    setup.finish();
+    if (options.answer.empty()) setup.finish();
     return options;
   }
   CLI::App app("Tabulates a CSV file.", "tabulate");
@@ -173,8 +185,8 @@ Options parseOptions(const std::vector<std::string>& arguments) {
   setup.common();
   app.footer(kFooter);
   parse(app, arguments, options);
-  setup.finish();
   if (!options.answer.empty()) return options;
+  setup.finish();
   if (options.request.data.empty())
     throw usageFailure("there is no data file; see tabulate --help");
   options.request.check();

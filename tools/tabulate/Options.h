@@ -3,6 +3,7 @@
 #ifndef OM_TOOLS_TABULATE_OPTIONS_H_
 #define OM_TOOLS_TABULATE_OPTIONS_H_
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,9 @@ struct Options {
   TableRequest request;
   TableRendering rendering;
   OutputFormat format = OutputFormat::TEXT;
-  std::string output;  // a file name; empty for the standard output
+  std::string output;        // a file name; empty for the standard output
+  std::optional<int> width;  // of text; the terminal's when it is not said
+  bool ascii = false;
   Progress::When progress = Progress::When::AUTO;
 };
 

@@ -27,6 +27,8 @@ class OutputFile {
   ~OutputFile();
 
   std::ostream& stream() { return stream_; }
+  // For who writes by name instead, and then nothing to the stream.
+  const std::string& path() const { return temporary_.empty() ? place_ : temporary_; }
   // Puts the file in its place.
   void commit();
 

@@ -78,7 +78,10 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
 
   Report report;
   RenderingOptions rendering;
-  rendering.terminalWidth = file ? 0 : surroundings.outWidth;
+  rendering.width =
+      static_cast<std::size_t>(options.width.value_or(file ? 0 : surroundings.outWidth));
+  rendering.ascii = options.ascii;
+  rendering.title = tables.size() == 1 ? titleOf(tables[0].request) : "Output";
   std::string dropped;  // the titles of the tables that were
   Progress progress(surroundings.err, options.progress, surroundings.errIsTerminal);
   for (std::size_t i = 0; i < tables.size(); ++i) {
@@ -97,12 +100,16 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
   }
   progress.clear();
 
-  std::ostream& out = file ? file->stream() : surroundings.out;
-  writeDocument(report.document(), options.format, rendering, out);
+  if (isWorkbook(options.format)) {
+    writeWorkbook(report.document(), rendering, file->path(), options.output);
+  } else {
+    writeDocument(report.document(), options.format, rendering,
+                  file ? file->stream() : surroundings.out);
+  }
   if (file) {
     file->commit();
   } else {
-    flush(out);
+    flush(surroundings.out);
   }
   if (dropped.empty()) return ExitCode::DONE;
   surroundings.err << "tabulate: dropped for having more cells than --max-cells: " << dropped

@@ -118,6 +118,14 @@ int layer(const std::string& word) {
   return number - 1;
 }
 
+int width(const std::string& word) {
+  int number = 0;
+  if (word != "0" && !wholeNumber(word, number)) {
+    throw usageFailure(inQuotes(word) + " is no number from 0");
+  }
+  return number;
+}
+
 std::vector<DimensionRequest> dimensions(const std::string& text) { return split(text, true); }
 
 std::vector<std::string> list(const std::string& text) {

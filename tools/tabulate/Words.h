@@ -29,6 +29,8 @@ std::int64_t count(const std::string& word);
 
 // The number of a layer from 1, or "all".
 int layer(const std::string& word);
+// A number of columns of text, or 0.
+int width(const std::string& word);
 
 // "a/b/c,d" as {{a, b, c}, {d}}: the dimensions of an axis. In a name, a comma, a slash and a
 // backslash have a backslash before them. Throws for an empty name and a backslash at the end.
