@@ -16,7 +16,7 @@ om_library_properties(om-render-objects)
 target_compile_definitions(om-render-objects PRIVATE OM_RENDER_BUILDING)
 target_link_libraries(om-render-objects PUBLIC om-build-options om-cells om-settings om-platform)
 foreach(writers text html records)
-  include(${PROJECT_SOURCE_DIR}/render/${writers}.cmake OPTIONAL)
+  include(${PROJECT_SOURCE_DIR}/render/${writers}.cmake)
 endforeach()
 
 add_library(om-render SHARED)

@@ -20,6 +20,7 @@ constexpr std::size_t kLeastWidth = 4;     // of a column that has to be made na
 constexpr std::size_t kLabelWidth = 10;    // of a label column that need not be narrower
 constexpr std::size_t kBodyRoom = 12;      // beside the labels
 constexpr std::size_t kCellWidth = 32;     // longer texts are wrapped
+constexpr std::size_t kLongLabel = 60;     // longer row labels are wrapped
 constexpr std::size_t kNumberWidth = 64;   // longer numbers are wrapped as texts are
 constexpr std::size_t kHeadingWidth = 18;  // of column labels, unless a word is longer
 
@@ -48,8 +49,11 @@ class Layout {
       : view_(view), reader_(marks), page_(pageWidth != 0 ? pageWidth : kUnlimited) {}
 
   TextLayout operator()() {
-    layOutLabelColumns();
+    measureLabels();
+    measureCells();
+    narrowLabels(page_ / 2, page_ > kBodyRoom ? page_ - kBodyRoom : 0);
     layOutColumns();
+    giveLabelsWhatIsLeft();
     splitIntoPanels();
     return std::move(layout_);
   }
@@ -57,20 +61,20 @@ class Layout {
  private:
   // ---- Label columns
 
-  void layOutLabelColumns() {
+  void measureLabels() {
     Widths& widths = layout_.labelColumns;
     widths.assign(view_.rows().levels(), 1);
     for (std::size_t level = widths.size(); level-- != 0;) {
       for (const Span& span : view_.rows().spans(level)) {
         if (span.node == nullptr) continue;
-        const std::size_t wanted = std::min(reader_.label(span.text()).width, kCellWidth);
+        const std::size_t wanted = std::min(reader_.label(span.text()).width, kLongLabel);
         widenLabels(level, level + span.levels, wanted);
       }
     }
     for (const TableView::CornerCell& cell : view_.corner()) {
       widenLabels(cell.begin, cell.end, headingWidth(cell.text, kCellWidth));
     }
-    shrinkLabels();
+    widestLabels_ = widths;
   }
 
   void widenLabels(std::size_t begin, std::size_t end, std::size_t wanted) {
@@ -83,19 +87,27 @@ class Layout {
     widen(have, wanted, columns);
   }
 
-  // Labels that take more than half of the page are made narrower, the widest columns first; but
-  // not so narrow that words suffer, unless the body would have no room.
-  void shrinkLabels() {
+  // Makes labels narrower, the widest columns first, until they take no more than is good, but not
+  // so narrow that words suffer; then, if need be, until they take no more than is allowed.
+  void narrowLabels(std::size_t good, std::size_t allowed) {
     Widths& widths = layout_.labelColumns;
-    std::size_t limit = kCellWidth;
-    for (const std::size_t width : widths) limit = std::max(limit, width);
-    const auto shrink = [&](std::size_t least, std::size_t most) {
+    widths = widestLabels_;
+    std::size_t limit = widths.empty() ? 0 : *std::max_element(widths.begin(), widths.end());
+    const auto narrow = [&](std::size_t least, std::size_t wanted) {
       const auto narrowed = [&](std::size_t width) { return std::min(width, limit); };
-      while (limit > least && widthOf(widths, narrowed) > most) --limit;
+      while (limit > least && widthOf(widths, narrowed) > wanted) --limit;
     };
-    shrink(kLabelWidth, page_ / 2);
-    shrink(kLeastWidth, page_ > kBodyRoom ? page_ - kBodyRoom : 0);
+    narrow(kLabelWidth, good);
+    narrow(kLeastWidth, allowed);
     for (std::size_t& width : widths) width = std::min(width, limit);
+    // One line in front of all, and behind each column a line and two blanks.
+    const std::size_t labels = widthOf(widths, [](std::size_t width) { return width; });
+    beforeBody_ = widths.empty() ? 1 : 1 + labels + kBetweenColumns;
+  }
+
+  void giveLabelsWhatIsLeft() {
+    const std::size_t body = widthOfColumns({0, layout_.columns.size()}) + 2 * kBetweenColumns + 1;
+    if (page_ > body && page_ - body > page_ / 2) narrowLabels(page_ - body, page_ - body);
   }
 
   // The width that a column label asks for; it is broken at blanks rather than within words.
@@ -109,15 +121,9 @@ class Layout {
   // ---- Body columns
 
   void layOutColumns() {
-    const std::size_t labels =
-        widthOf(layout_.labelColumns, [](std::size_t width) { return width; });
-    // One line in front of all, and behind each column a line and two blanks.
-    beforeBody_ = layout_.labelColumns.empty() ? 1 : 1 + labels + kBetweenColumns;
     room_ = page_ > beforeBody_ + kBetweenColumns + kLeastWidth
                 ? page_ - beforeBody_ - kBetweenColumns
                 : kLeastWidth;
-    layout_.columns.resize(view_.columnCount());
-    measureCells();
     for (BodyColumn& column : layout_.columns) settle(column);
     for (std::size_t level = view_.columns().levels(); level-- != 0;) {
       for (const Span& span : view_.columns().spans(level)) {
@@ -128,6 +134,7 @@ class Layout {
   }
 
   void measureCells() {
+    layout_.columns.resize(view_.columnCount());
     std::vector<const OmCellText*> cells;
     for (std::uint64_t row = 0; row < view_.rowCount(); ++row) {
       view_.row(row, cells);
@@ -228,6 +235,7 @@ class Layout {
   const std::size_t page_;
   std::size_t beforeBody_ = 0;  // the width of what stands in front of the first body column
   std::size_t room_ = 0;        // for the width of a body column
+  Widths widestLabels_;         // what the label columns ask for
   TextLayout layout_;
 };
 

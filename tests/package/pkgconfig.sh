@@ -3,11 +3,12 @@
 set -euo pipefail
 compiler=$1
 libraries=$2
-source=$3
+package=$3
+source=$4
 program=$(mktemp)
 trap 'rm -f "$program"' EXIT
 
 export PKG_CONFIG_PATH=$libraries/pkgconfig
-read -ra flags <<<"$(pkg-config --cflags --libs om) ${4-}"
+read -ra flags <<<"$(pkg-config --cflags --libs "$package") ${5-}"
 "$compiler" -std=c++20 "$source" -o "$program" "${flags[@]}" -Wl,-rpath,"$libraries"
 "$program"

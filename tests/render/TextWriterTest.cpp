@@ -316,7 +316,7 @@ TEST(TextWriter, LongColumnLabelsAreWrappedAndStandAtTheBottom) {
             "+---+--------------------+---+\n");
 }
 
-TEST(TextWriter, FurtherLinesOfARowLabelStandBesideTheNextRowsOfItsSpan) {
+SampleTable tableWithALongLabel() {
   SampleTable table = sampleTable("T");
   addSampleDimension(*table, "S", {"f", "m"});
   addSampleDimension(*table, "K", {"a group of rows with quite a long label", "x"});
@@ -325,7 +325,11 @@ TEST(TextWriter, FurtherLinesOfARowLabelStandBesideTheNextRowsOfItsSpan) {
   for (const int i : {0, 1}) {
     for (const int j : {0, 1}) table->Cell({i, j}, OmNumber(i + j));
   }
-  EXPECT_EQ(ascii(*table),
+  return table;
+}
+
+TEST(TextWriter, FurtherLinesOfARowLabelStandBesideTheNextRowsOfItsSpan) {
+  EXPECT_EQ(ascii(*tableWithALongLabel(), 44),
             "T\n"
             "+----------------------------------+---+---+\n"
             "| K                                | S |   |\n"
@@ -336,6 +340,20 @@ TEST(TextWriter, FurtherLinesOfARowLabelStandBesideTheNextRowsOfItsSpan) {
             "| x                                | f | 1 |\n"
             "|                                  | m | 2 |\n"
             "+----------------------------------+---+---+\n");
+}
+
+TEST(TextWriter, RowLabelsTakeAllThatTheBodyLeaves) {
+  EXPECT_EQ(ascii(*tableWithALongLabel(), 51),
+            "T\n"
+            "+-----------------------------------------+---+---+\n"
+            "| K                                       | S |   |\n"
+            "+-----------------------------------------+---+---+\n"
+            "| a group of rows with quite a long label | f | 0 |\n"
+            "|                                         | m | 1 |\n"
+            "+-----------------------------------------+---+---+\n"
+            "| x                                       | f | 1 |\n"
+            "|                                         | m | 2 |\n"
+            "+-----------------------------------------+---+---+\n");
 }
 
 TEST(TextWriter, TheLastRowOfASpanIsAsHighAsItsLabelNeeds) {
