@@ -18,9 +18,10 @@ class Joints {
  public:
   // Whether the cluster may begin a line; called for one cluster after the other.
   bool before(std::string_view cluster, std::size_t width) {
-    const bool may = behindBreak_ || width > 1;
-    behindBreak_ = width > 1 || (cluster == "-" && inWord_);
-    inWord_ = true;
+    const bool isHyphen = cluster == "-";
+    const bool may = (behindBreak_ && !isHyphen) || width > 1;
+    behindBreak_ = width > 1 || (isHyphen && inWord_);
+    inWord_ |= !isHyphen;
     return may;
   }
   void blank() {

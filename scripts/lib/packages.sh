@@ -14,8 +14,14 @@ need_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# What it takes to build the libraries.
+# What it takes to build om and its companions.
 BUILD_PACKAGES=(g++ cmake ninja-build)
 
-# What the program takes besides.
+# What the writers take besides.
+RENDER_PACKAGES=(libutf8proc-dev pkg-config)
+
+# What the program takes on top of that.
 TOOL_PACKAGES=(libcsv-dev libcli11-dev nlohmann-json3-dev)
+
+# What the tests take.
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${RENDER_PACKAGES[@]}" "${TOOL_PACKAGES[@]}" libxlsxwriter-dev libgtest-dev)

@@ -61,7 +61,13 @@ TEST(Wrapping, AWordThatIsLongerThanALineIsBroken) {
 
 TEST(Wrapping, ALineMayEndBehindAHyphen) {
   EXPECT_EQ(wrapped("well-known", 6), "|well-|known|");
-  EXPECT_EQ(wrapped("a -1", 3), "|a|-1|");  // but not behind a sign
+  EXPECT_EQ(wrapped("a--b", 3), "|a--|b|");
+}
+
+TEST(Wrapping, AHyphenInFrontOfAWordStaysWithIt) {
+  EXPECT_EQ(wrapped("a -1", 3), "|a|-1|");
+  EXPECT_EQ(wrapped("ab --cd-ef", 6), "|ab|--cd-|ef|");
+  EXPECT_EQ(widthOfWords("ab --cd-ef"), 5U);
 }
 
 TEST(Wrapping, ANoBreakSpaceHoldsWordsTogether) {
