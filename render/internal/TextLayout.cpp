@@ -18,6 +18,7 @@ using Widths = std::vector<std::size_t>;
 constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max() / 2;
 constexpr std::size_t kLeastWidth = 4;     // of a column that has to be made narrower
 constexpr std::size_t kLabelWidth = 10;    // of a label column that need not be narrower
+constexpr std::size_t kShortLabel = 16;    // of one that is made narrower so that all fits
 constexpr std::size_t kBodyRoom = 12;      // beside the labels
 constexpr std::size_t kCellWidth = 32;     // longer texts are wrapped
 constexpr std::size_t kLongLabel = 60;     // longer row labels are wrapped
@@ -105,9 +106,14 @@ class Layout {
     beforeBody_ = widths.empty() ? 1 : 1 + labels + kBetweenColumns;
   }
 
+  // Labels get all that the body leaves over, and rather less than half of the page than that the
+  // table does not fit.
   void giveLabelsWhatIsLeft() {
     const std::size_t body = widthOfColumns({0, layout_.columns.size()}) + 2 * kBetweenColumns + 1;
-    if (page_ > body && page_ - body > page_ / 2) narrowLabels(page_ - body, page_ - body);
+    if (page_ <= body) return;
+    const std::size_t left = page_ - body;
+    const auto shortened = [](std::size_t width) { return std::min(width, kShortLabel); };
+    if (left > page_ / 2 || widthOf(widestLabels_, shortened) <= left) narrowLabels(left, left);
   }
 
   // The width that a column label asks for; it is broken at blanks rather than within words.

@@ -20,10 +20,10 @@ std::string textOf(OmPivotTable& table, std::size_t width) {
   return out.str();
 }
 
-// Columns "a0", "a1", ... of one digit each, without the dimension's name, in rows "r".
-SampleTable tableOfColumns(int count) {
+// Columns "a0", "a1", ... of one digit each, without the dimension's name, in one row.
+SampleTable tableOfColumns(int count, const std::string& row = "r") {
   SampleTable table = sampleTable("T");
-  addSampleDimension(*table, "R", {"r"});
+  addSampleDimension(*table, "R", {row});
   std::vector<std::string> labels;
   for (int i = 0; i < count; ++i) labels.push_back("a" + std::to_string(i));
   addSampleDimension(*table, "C", labels).Root()->Hide(true);
@@ -51,6 +51,25 @@ TEST(TextPanels, ATableThatFitsIsOnePanelWithoutANote) {
             "+---+----+----+----+\n"
             "| r |  0 |  1 |  2 |\n"
             "+---+----+----+----+\n");
+}
+
+// The label gets 20 columns of the 54: the rest of the table takes 34.
+TEST(TextPanels, RowLabelsAreWrappedSoThatATableFits) {
+  EXPECT_EQ(textOf(*tableOfColumns(6, "a long label of thirty letters"), 54),
+            "T\n"
+            "+----------------------+----+----+----+----+----+----+\n"
+            "| R                    | a0 | a1 | a2 | a3 | a4 | a5 |\n"
+            "+----------------------+----+----+----+----+----+----+\n"
+            "| a long label of      |  0 |  1 |  2 |  3 |  4 |  5 |\n"
+            "|   thirty letters     |    |    |    |    |    |    |\n"
+            "+----------------------+----+----+----+----+----+----+\n");
+}
+
+TEST(TextPanels, RowLabelsKeepHalfOfThePageRatherThanFewerThanSixteenColumns) {
+  const SampleTable table = tableOfColumns(6, "a long label of thirty letters");
+  EXPECT_EQ(textOf(*table, 50).find("(column"), std::string::npos);
+  EXPECT_NE(textOf(*table, 49).find("| R                        | a0 | a1 | a2 | a3 |\n"),
+            std::string::npos);
 }
 
 TEST(TextPanels, ATableThatIsTooWideByOneIsSplitAndRepeatsItsRowLabels) {
