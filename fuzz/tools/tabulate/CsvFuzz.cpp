@@ -26,7 +26,7 @@ using Records = std::vector<std::vector<std::string>>;
 constexpr std::array kEncodings{"UTF-8", "UTF-8", "UTF-8", "ISO-8859-1", "UTF-16", "Shift_JIS"};
 constexpr std::array kPieces{"a",  "b",  "7",    ",",      ",",    ",",   "\n",  "\n",
                              "\"", "\"", "\"\"", "\r\n",   "\r",   " ",   "\t",  "-1.5",
-                             "",   "x",  "NA",   "\u00e9", "\xff", "1e3", "a,b", "\n\n"};
+                             "",   "x",  "NA",   "\u00e9", "\xff", "1e3", "<b>", "\n\n"};
 
 void require(bool condition) {
   if (!condition) std::abort();
@@ -96,8 +96,13 @@ void tabulate(const std::string& text, const std::string& encoding,
   const OmPivotTable* const table = report.add(request, counted, {"tabulate fuzz.csv"});
   if (table != nullptr) require(table->validate().empty());
   std::ostringstream out;
-  writeDocument(report.document(), OutputFormat::TEXT, {}, out);
+  const auto format = static_cast<OutputFormat>(choice % 5);
+  writeDocument(report.document(), format, {}, out);
   require(!out.str().empty());
+  // No text gets at a terminal, or into the markup.
+  require(out.str().find('\0') == std::string::npos);
+  require(format == OutputFormat::CSV || out.str().find('\x1b') == std::string::npos);
+  require(format != OutputFormat::HTML || out.str().find("<b>") == std::string::npos);
 }
 
 }  // namespace
