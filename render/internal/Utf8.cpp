@@ -1,6 +1,7 @@
 #include "render/internal/Utf8.h"
 
 #include <iconv.h>
+#include <utf8proc.h>
 
 #include <array>
 #include <cerrno>
@@ -38,21 +39,12 @@ bool convert(std::string_view bytes, const std::string& codePage, std::string& u
 
 }  // namespace
 
-// By the table of well-formed sequences of the Unicode standard.
 std::size_t sequenceLength(std::string_view bytes) {
-  if (bytes.empty()) return 0;
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-  const unsigned char lead = byte(0);
-  if (lead < 0x80) return 1;
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
-  const unsigned char lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  const unsigned char highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  if (byte(1) < lowest || byte(1) > highest) return 0;
-  for (std::size_t i = 2; i < length; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) return 0;
-  }
-  return length;
+  utf8proc_int32_t character = 0;
+  const utf8proc_ssize_t length =
+      utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(bytes.data()),
+                       static_cast<utf8proc_ssize_t>(bytes.size()), &character);
+  return length > 0 ? static_cast<std::size_t>(length) : 0;
 }
 
 bool isUtf8(std::string_view bytes) {
