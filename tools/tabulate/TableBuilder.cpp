@@ -1,9 +1,9 @@
 #include "tools/tabulate/TableBuilder.h"
 
 #include <algorithm>
-#include <deque>
 #include <limits>
-#include <optional>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "external/cells/OmNumber.h"
@@ -42,6 +42,12 @@ struct Placed {
   Categories categories;
 };
 
+// What the percentages of one kind are of.
+struct Base {
+  std::vector<const Categories*> dimensions;  // null: summed over
+  Tally tally;
+};
+
 class TableBuilder {
  public:
   TableBuilder(const TableRequest& request, const Counted& counted)
@@ -58,8 +64,8 @@ class TableBuilder {
                 std::size_t node);
   void fillAxes();
   void fillCells();
-  double valueOf(const StatisticEntry& entry, const Tally& body, std::size_t cell) const;
-  double shareOf(Statistic statistic, const Tally& body, std::size_t cell) const;
+  double valueOf(const StatisticEntry& entry, const Tally& body, std::size_t cell);
+  double shareOf(Statistic statistic, const Tally& body, std::size_t cell);
   std::vector<const Categories*> kept(bool rows, bool columns) const;
 
   bool hasStatistics() const { return statistics_.size() > 1; }
@@ -74,7 +80,8 @@ class TableBuilder {
   const std::vector<StatisticEntry> statistics_;
   std::unique_ptr<OmPivotTable> table_;
   std::vector<Placed> dimensions_;  // in the order in which the table has them
-  std::optional<Tally> bases_[3];   // of the row, column and total percentages
+  std::map<Statistic, Base> bases_;
+  std::vector<Tally::Code> codes_;  // of the last base, to have room for it
   short missingNote_ = -1;
 };
 
@@ -211,10 +218,10 @@ void TableBuilder::fillCells() {
     const bool ofRow = entry.statistic == Statistic::ROW_PERCENT;
     const bool ofColumn = entry.statistic == Statistic::COLUMN_PERCENT;
     if (ofRow || ofColumn || entry.statistic == Statistic::TOTAL_PERCENT) {
-      const auto which =
-          static_cast<int>(entry.statistic) - static_cast<int>(Statistic::ROW_PERCENT);
-      bases_[which] = expand(counted_.tally, kept(ofRow, ofColumn), weights,
-                             std::numeric_limits<std::size_t>::max());
+      std::vector<const Categories*> dimensions = kept(ofRow, ofColumn);
+      Tally base =
+          expand(counted_.tally, dimensions, weights, std::numeric_limits<std::size_t>::max());
+      bases_.emplace(entry.statistic, Base{std::move(dimensions), std::move(base)});
     }
   }
   const std::size_t first = hasStatistics() ? 1 : 0;
@@ -230,8 +237,7 @@ void TableBuilder::fillCells() {
   }
 }
 
-double TableBuilder::valueOf(const StatisticEntry& entry, const Tally& body,
-                             std::size_t cell) const {
+double TableBuilder::valueOf(const StatisticEntry& entry, const Tally& body, std::size_t cell) {
   switch (entry.statistic) {
     case Statistic::COUNT:
       return body.count(cell);
@@ -262,16 +268,13 @@ double TableBuilder::valueOf(const StatisticEntry& entry, const Tally& body,
   }
 }
 
-double TableBuilder::shareOf(Statistic statistic, const Tally& body, std::size_t cell) const {
-  const auto which = static_cast<int>(statistic) - static_cast<int>(Statistic::ROW_PERCENT);
-  const std::vector<const Categories*> dimensions =
-      kept(statistic == Statistic::ROW_PERCENT, statistic == Statistic::COLUMN_PERCENT);
-  std::vector<Tally::Code> codes(body.key(cell).begin(), body.key(cell).end());
-  for (std::size_t i = 0; i < codes.size(); ++i) {
-    if (dimensions[i] == nullptr) codes[i] = 0;
+double TableBuilder::shareOf(Statistic statistic, const Tally& body, std::size_t cell) {
+  const Base& of = bases_.at(statistic);
+  codes_.assign(body.key(cell).begin(), body.key(cell).end());
+  for (std::size_t i = 0; i < codes_.size(); ++i) {
+    if (of.dimensions[i] == nullptr) codes_[i] = 0;
   }
-  const Tally& bases = *bases_[which];
-  const double base = bases.count(bases.find(codes.data()));
+  const double base = of.tally.count(of.tally.find(codes_.data()));
   return base > 0 ? 100 * body.count(cell) / base : Moments::kNone;
 }
 
