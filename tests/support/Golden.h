@@ -2,8 +2,8 @@
 // in the environment, the file becomes what is written; look at the difference before committing
 // it.
 
-#ifndef OM_TESTS_RENDER_GOLDEN_H_
-#define OM_TESTS_RENDER_GOLDEN_H_
+#ifndef OM_TESTS_SUPPORT_GOLDEN_H_
+#define OM_TESTS_SUPPORT_GOLDEN_H_
 
 #include <gtest/gtest.h>
 
@@ -50,4 +50,4 @@ inline void expectGolden(const std::string& name, const std::string& actual) {
 
 }  // namespace om::test
 
-#endif  // OM_TESTS_RENDER_GOLDEN_H_
+#endif  // OM_TESTS_SUPPORT_GOLDEN_H_
