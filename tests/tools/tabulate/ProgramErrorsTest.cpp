@@ -9,6 +9,7 @@
 
 #include <cctype>
 
+#include "tests/support/Allocations.h"
 #include "tests/support/Golden.h"
 #include "tests/tools/tabulate/RunProgram.h"
 #include "tests/tools/tabulate/TemporaryFolder.h"
@@ -286,6 +287,33 @@ TEST(ProgramErrors, AreOneLineEachAndTouchNoFile) {
   theTableOfAJob(errors);
   theOutput(errors);
   expectGolden("errors.txt", errors.said());
+}
+
+TEST(ProgramErrors, WithoutMemoryTheFormerFileStays) {
+  const TemporaryFolder folder;
+  const WorkingFolder inFolder(folder.path());
+  const Arguments arguments{"-",       "--rows",    "a/b",      "--columns", "c",       "--totals",
+                            "columns", "--missing", "category", "-o",        "out.html"};
+  std::size_t silent = 0;
+  const std::size_t failures = failEveryAllocation([&](FailurePoint& failure) {
+    folder.write("out.html", "former");
+    std::istringstream in("a,b,c\nx,1,p\n,2,q\n");
+    std::ostringstream out;
+    std::ostringstream err;
+    ExitCode code{};
+    failure.during([&] { code = tabulate::runProgram(arguments, {in, out, err}); });
+    EXPECT_EQ(std::vector<std::string>{"out.html"}, folder.names());
+    if (code == ExitCode::DONE) {
+      silent += failure.failed() ? 1 : 0;
+      EXPECT_NE(std::string::npos, contentOf("out.html").find("</html>"));
+      return;
+    }
+    EXPECT_EQ("tabulate: there is not enough memory\n", err.str());
+    EXPECT_EQ(ExitCode::DATA, code);
+    EXPECT_EQ("former", contentOf("out.html"));
+  });
+  EXPECT_GT(failures, 500U);
+  EXPECT_EQ(0U, silent);
 }
 
 // Standard input that cannot be read and standard output that cannot be written.
