@@ -174,8 +174,13 @@ void parse(CLI::App& app, std::vector<std::string> arguments, Options& options) 
   std::reverse(arguments.begin(), arguments.end());
   try {
     app.parse(arguments);
+    bool onlyNames = false;  // behind "--", which is among what remains
     for (const std::string& extra : app.remaining()) {
-      const bool option = extra.size() > 1 && extra.front() == '-' && extra != "--";
+      if (extra == "--" && !onlyNames) {
+        onlyNames = true;
+        continue;
+      }
+      const bool option = !onlyNames && extra.size() > 1 && extra.front() == '-';
       throw usageFailure((option ? "there is no option " : "there is one argument too many: ") +
                          inQuotes(extra) + seeHelp);
     }

@@ -116,6 +116,13 @@ TEST(Options, ADashIsTheStandardInput) {
   EXPECT_EQ("-", parseOptions({"--rows", "a", "-"}).request.data);
 }
 
+TEST(Options, BehindTwoDashesStandsAName) {
+  EXPECT_EQ("-x.csv", parseOptions({"--rows", "a", "--", "-x.csv"}).request.data);
+  EXPECT_EQ("d.csv", parseOptions({"d.csv", "--rows", "a", "--"}).request.data);
+  EXPECT_EQ("--", parseOptions({"--rows", "a", "--", "--"}).request.data);
+  EXPECT_EQ("-j.json", parseOptions({"run", "--", "-j.json"}).jobFile);
+}
+
 TEST(Options, RunTakesAJob) {
   const Options options = parseOptions({"run", "j.json", "-o", "x.html", "--progress", "always"});
   EXPECT_EQ("j.json", options.jobFile);

@@ -123,7 +123,8 @@ void theCommand(Errors& errors) {
   errors.refused({"run", ""});
   errors.refused({"d.csv", "--row", "a"});
   errors.refused({"d.csv", "-x"});
-  errors.refused({"d.csv", "--rows", "a", "--", "-x"});
+  errors.refusedAlone({"d.csv", "--rows", "a", "--", "-x"});
+  errors.refusedAlone({"d.csv", "--rows", "a", "--", "--"});
   errors.refused({"d.csv", "more.csv", "--rows", "a"});
   errors.refused({"run", "job.json", "d.csv"});
   errors.refused({"run", "job.json", "--rows", "a"});
