@@ -25,7 +25,8 @@ std::size_t columnOf(const CsvReader& reader, const std::string& name) {
                        "; the columns are " + listOf(header));
   }
   if (std::find(found + 1, header.end(), name) != header.end()) {
-    throw CsvReader::fault(reader.file(), 0, 1, inQuotes(name), "the header has it twice");
+    throw CsvReader::fault(reader.file(), 0, reader.headerLine(), inQuotes(name),
+                           "the header has it twice");
   }
   return static_cast<std::size_t>(found - header.begin());
 }

@@ -93,6 +93,7 @@ struct CsvReader::State {
   std::vector<std::size_t> positions;  // of the selected columns among those that are wanted
   std::size_t width = 0;
   bool inHeader = true;
+  std::uint64_t headerLine = 1;
 
   std::uint64_t records = 0;  // that have ended, the header included
   std::size_t column = 0;     // of the field in progress
@@ -142,13 +143,15 @@ inline void CsvReader::State::onRecord() {
   if (failure) return;
   if (inHeader) {
     inHeader = false;
+    headerLine = scan.begun ? scan.recordLine : scan.line;
     wanted.assign(header.size(), 0);
   } else if (column != header.size()) {
     const bool few = column < header.size();
     scan.scan(unscanned, records);
     column = few ? column : header.size();
     failInPresentRecord(few ? "the record ends in front of it"
-                            : "the header has only " + std::to_string(header.size()) + " fields");
+                            : "the header has only " + std::to_string(header.size()) +
+                                  (header.size() == 1 ? " field" : " fields"));
     return;
   } else {
     ++target->records_;
@@ -283,6 +286,7 @@ CsvReader::~CsvReader() = default;
 
 const std::string& CsvReader::file() const { return my_->file; }
 const std::vector<std::string>& CsvReader::header() const { return my_->header; }
+std::uint64_t CsvReader::headerLine() const { return my_->headerLine; }
 
 void CsvReader::select(const std::vector<std::size_t>& columns) {
   std::fill(my_->wanted.begin(), my_->wanted.end(), char{0});

@@ -75,6 +75,8 @@ class CsvReader {
 
   const std::string& file() const;
   const std::vector<std::string>& header() const;
+  // The line that the header starts in, from 1.
+  std::uint64_t headerLine() const;
 
   // The columns whose fields the batches hold. REQUIRES: next was not called yet.
   void select(const std::vector<std::size_t>& columns);

@@ -1,12 +1,12 @@
 #include "tools/tabulate/JobFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -73,6 +73,7 @@ std::int64_t limit(const Json& value) {
 
 int layer(const Json& value) {
   if (value.is_number_integer()) return words::layer(value.dump());
+  if (!value.is_string()) throw usageFailure("a whole number or \"all\" is needed");
   return words::layer(text(value));
 }
 
@@ -107,7 +108,7 @@ constexpr Key kKeys[] = {
     {"notes", [](JobTable& t, const Json& v) { t.request.notes = texts(v); }},
     {"max-cells", [](JobTable& t, const Json& v) { t.request.maxCells = limit(v); }},
     {"skip-empty",
-     [](JobTable& t, const Json& v) { t.rendering.skipEmpty = words::axes(texts(v)); }},
+     [](JobTable& t, const Json& v) { t.rendering.skipEmpty = words::axesOrNone(texts(v)); }},
     {"names-in-corner",
      [](JobTable& t, const Json& v) {
        if (!v.is_boolean()) throw usageFailure("true or false is needed");
@@ -209,7 +210,11 @@ std::vector<JobTable> readJob(const std::string& file) {
   errno = 0;
   std::ifstream in(file, std::ios::binary);
   std::string source;
-  if (in) source.assign(std::istreambuf_iterator<char>(in), {});
+  // Reading from the stream's buffer would throw for a folder.
+  std::array<char, 16384> block;
+  while (in.read(block.data(), block.size()) || in.gcount() != 0) {
+    source.append(block.data(), static_cast<std::size_t>(in.gcount()));
+  }
   if (!in.is_open() || in.bad()) {
     throw dataFailure(printable(file) + ": cannot be read: " +
                       (errno != 0 ? std::strerror(errno) : "unknown reason"));

@@ -27,6 +27,11 @@ constexpr char kJobFooter[] = R"(
 The job is an object with a list "tables". Each table is an object with the options of "tabulate"
 as keys; "data" names a file in the folder of the job, or below it.)";
 
+const std::string& name(const std::string& value) {
+  if (value.empty()) throw usageFailure("the name is empty");
+  return value;
+}
+
 // Options of an app, each of which takes a text and may be given once.
 class Setup {
  public:
@@ -63,7 +68,7 @@ class Setup {
            formatGiven_ = true;
          });
     text("-o,--output", "FILE", "Write to FILE, whole or not at all",
-         [this](const std::string& value) { options_.output = value; });
+         [this](const std::string& value) { options_.output = name(value); });
     text("--width", "N", "Columns of text, 0 for as many as it takes (default: the terminal's)",
          [this](const std::string& value) { options_.width = words::width(value); });
     app_.add_flag("--ascii", options_.ascii, "Draw the lines of text in ASCII")
@@ -110,7 +115,7 @@ void setUpTable(Setup& setup, CLI::App& app, Options& options) {
   axis("--columns", "Dimensions across the columns", Axis::COLUMNS);
   axis("--layers", "Dimensions from layer to layer", Axis::LAYERS);
   setup.text("--weight", "NAME", "A column of weights: a record counts as often as it says",
-             [&](const std::string& value) { request.weight = value; });
+             [&](const std::string& value) { request.weight = name(value); });
   setup.text("--measure", "NAMES", "Columns of numbers to take statistics of",
              [&](const std::string& value) { request.measures = words::list(value); });
   setup.text("--statistics", "LIST",
@@ -131,8 +136,7 @@ void setUpTable(Setup& setup, CLI::App& app, Options& options) {
   setup.text("--skip-empty", "AXES",
              "Leave out the empty rows, columns, layers (default: all), none",
              [&](const std::string& value) {
-               rendering.skipEmpty =
-                   words::axes(value == "none" ? std::vector<std::string>() : words::list(value));
+               rendering.skipEmpty = words::axesOrNone(words::list(value));
              });
   app.add_flag("--names-in-corner", rendering.namesInCorner,
                "Put the names of row dimensions in the corner")
@@ -152,10 +156,38 @@ void setUpTable(Setup& setup, CLI::App& app, Options& options) {
              [&](const std::string& value) { request.maxCells = words::count(value); });
 }
 
+Failure noJob() { return usageFailure("there is no job file; see tabulate run --help"); }
+
+// In words for who calls this program: those of the parser leave open what to do.
+Failure mismatch(const std::string& parserText) {
+  const std::size_t colon = parserText.find(':');
+  if (colon != parserText.npos) {
+    return usageFailure(printable(parserText.substr(0, colon)) + " needs a value");
+  }
+  return usageFailure("--" + printable(parserText.substr(0, parserText.find(' '))) +
+                      " takes no value");
+}
+
 void parse(CLI::App& app, std::vector<std::string> arguments, Options& options) {
+  const std::string seeHelp = "; see " + app.get_name() + " --help";
+  app.allow_extras();  // to name them in our words, too
   std::reverse(arguments.begin(), arguments.end());
   try {
     app.parse(arguments);
+    bool onlyNames = false;  // behind "--", which is among what remains
+    for (const std::string& extra : app.remaining()) {
+      if (extra == "--" && !onlyNames) {
+        onlyNames = true;
+        continue;
+      }
+      const bool option = !onlyNames && extra.size() > 1 && extra.front() == '-';
+      throw usageFailure((option ? "there is no option " : "there is one argument too many: ") +
+                         inQuotes(extra) + seeHelp);
+    }
+  } catch (const CLI::ArgumentMismatch& error) {
+    throw mismatch(error.what());
+  } catch (const CLI::RequiredError&) {
+    throw noJob();
   } catch (const CLI::CallForHelp&) {
     options.answer = app.help();
   } catch (const CLI::CallForVersion& version) {
@@ -176,7 +208,9 @@ Options parseOptions(const std::vector<std::string>& arguments) {
     setup.common();
     app.footer(kJobFooter);
     parse(app, {arguments.begin() + 1, arguments.end()}, options);
-    if (options.answer.empty()) setup.finish();
+    if (!options.answer.empty()) return options;
+    setup.finish();
+    if (options.jobFile.empty()) throw noJob();
     return options;
   }
   CLI::App app("Tabulates a CSV file.", "tabulate");

@@ -62,6 +62,18 @@ void flush(std::ostream& out) {
                     (errno != 0 ? std::strerror(errno) : "unknown reason"));
 }
 
+// What is wrong with the request for a table of a job is said with the table's place.
+template <class Work>
+void forTable(const std::string& jobFile, std::size_t number, const Work& work) {
+  try {
+    work();
+  } catch (const Failure& failure) {
+    if (jobFile.empty() || failure.code() != ExitCode::USAGE) throw;
+    throw usageFailure(printable(jobFile) + ": table " + std::to_string(number) + ": " +
+                       failure.what());
+  }
+}
+
 ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings& surroundings) {
   const Options options = parseOptions(arguments);
   if (!options.answer.empty()) {
@@ -89,14 +101,16 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
     if (!options.jobFile.empty()) {
       log.push_back("Table " + std::to_string(i + 1) + " of " + std::to_string(tables.size()));
     }
-    const Counted counted = count(tables[i].request, surroundings, progress);
-    const OmPivotTable* const table = report.add(tables[i].request, counted, log);
-    if (table == nullptr) {
-      dropped += (dropped.empty() ? "" : ", ") + inQuotes(titleOf(tables[i].request));
-      continue;
-    }
-    checkLayer(*table, tables[i].rendering);
-    rendering.special[table] = tables[i].rendering;
+    forTable(options.jobFile, i + 1, [&] {
+      const Counted counted = count(tables[i].request, surroundings, progress);
+      const OmPivotTable* const table = report.add(tables[i].request, counted, log);
+      if (table == nullptr) {
+        dropped += (dropped.empty() ? "" : ", ") + inQuotes(titleOf(tables[i].request));
+        return;
+      }
+      checkLayer(*table, tables[i].rendering);
+      rendering.special[table] = tables[i].rendering;
+    });
   }
   progress.clear();
 

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "tools/tabulate/Failure.h"
+#include "tools/tabulate/Statistics.h"
 
 namespace om::tabulate {
 
@@ -33,12 +34,15 @@ void TableRequest::check() const {
 
   std::set<Statistic> given;
   for (const Statistic statistic : statistics) {
-    if (!given.insert(statistic).second) throw usageFailure("a statistic is given twice");
+    if (!given.insert(statistic).second) {
+      throw usageFailure("the statistic " + inQuotes(nameOf(statistic)) + " is given twice");
+    }
   }
   const auto ofMeasure = [](Statistic statistic) { return isOfMeasure(statistic); };
   const auto needsMeasure = [](Statistic statistic) { return statistic > Statistic::N; };
-  if (measures.empty() && std::any_of(statistics.begin(), statistics.end(), needsMeasure)) {
-    throw usageFailure("there is a statistic of a measure, but no measure");
+  const auto alone = std::find_if(statistics.begin(), statistics.end(), needsMeasure);
+  if (measures.empty() && alone != statistics.end()) {
+    throw usageFailure("there is no measure to take the " + inQuotes(nameOf(*alone)) + " of");
   }
   if (!measures.empty() && !statistics.empty() &&
       std::none_of(statistics.begin(), statistics.end(), ofMeasure)) {

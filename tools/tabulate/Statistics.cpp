@@ -62,6 +62,8 @@ std::string labelOf(Statistic statistic) {
   return kNames[static_cast<std::size_t>(statistic)].label;
 }
 
+std::string nameOf(Statistic statistic) { return kNames[static_cast<std::size_t>(statistic)].name; }
+
 bool statisticNamed(const std::string& name, Statistic& statistic) {
   for (const Names& names : kNames) {
     if (name == names.name) {

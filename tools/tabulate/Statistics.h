@@ -27,6 +27,8 @@ std::vector<StatisticEntry> statisticsOf(const TableRequest& request, const Coun
 
 // "Count", "Row %" ...
 std::string labelOf(Statistic statistic);
+// Its word in options.
+std::string nameOf(Statistic statistic);
 
 // The statistic's name on the command line; false, or null, where there is none.
 bool statisticNamed(const std::string& name, Statistic& statistic);

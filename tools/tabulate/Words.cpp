@@ -21,11 +21,14 @@ T choose(const std::string& word, const std::array<std::pair<const char*, T>, kC
   throw usageFailure(inQuotes(word) + " is none of " + list);
 }
 
-// False unless the word is a number from 1 that the type holds.
+// False unless the word is a whole number from 1. Throws when it is more than the type holds.
 template <class T>
 bool wholeNumber(const std::string& word, T& number) {
   const char* const end = word.data() + word.size();
   const auto [stop, error] = std::from_chars(word.data(), end, number);
+  if (error == std::errc::result_out_of_range && word[0] != '-') {
+    throw usageFailure(inQuotes(word) + " is too large");
+  }
   return error == std::errc() && stop == end && number >= 1;
 }
 
@@ -103,9 +106,14 @@ PerAxis<bool> axes(const std::vector<std::string>& words) {
   return result;
 }
 
+PerAxis<bool> axesOrNone(const std::vector<std::string>& words) {
+  return words == std::vector<std::string>{"none"} ? PerAxis<bool>() : axes(words);
+}
+
 std::int64_t count(const std::string& word) {
   std::int64_t number = 0;
-  if (!wholeNumber(word, number)) throw usageFailure(inQuotes(word) + " is no number from 1");
+  if (!wholeNumber(word, number))
+    throw usageFailure(inQuotes(word) + " is no whole number from 1 up");
   return number;
 }
 
@@ -121,7 +129,7 @@ int layer(const std::string& word) {
 int width(const std::string& word) {
   int number = 0;
   if (word != "0" && !wholeNumber(word, number)) {
-    throw usageFailure(inQuotes(word) + " is no number from 0");
+    throw usageFailure(inQuotes(word) + " is no whole number from 0 up");
   }
   return number;
 }

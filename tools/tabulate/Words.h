@@ -23,6 +23,8 @@ Progress::When when(const std::string& word);
 
 // Sets the axes named, and clears the others. Throws for an axis that is named twice.
 PerAxis<bool> axes(const std::vector<std::string>& words);
+// The same, and for the one word "none" no axis.
+PerAxis<bool> axesOrNone(const std::vector<std::string>& words);
 
 // A whole number from 1.
 std::int64_t count(const std::string& word);

@@ -74,6 +74,13 @@ TEST(Job, LayerMayBeAll) {
             parseOne(R"(, "layer": "all")").at(0).rendering.layer);
 }
 
+TEST(Job, NothingIsSkippedForNone) {
+  for (const std::string list : {"[]", "[\"none\"]"}) {
+    const JobTable table = parseOne(", \"skip-empty\": " + list).at(0);
+    for (const Axis axis : tabulate::kAxes) EXPECT_FALSE(table.rendering.skipEmpty[axis]);
+  }
+}
+
 TEST(JobRefusal, OfWhatIsNoJson) {
   EXPECT_EQ("j.json: it is no JSON at line 1, byte 1", refusal(""));
   EXPECT_EQ("j.json: it is no JSON at line 2, byte 3", refusal("{\n  x}"));
@@ -123,15 +130,16 @@ TEST(JobRefusal, OfValuesOfAnotherKind) {
             refusalOfOne(R"(, "order": "up")"));
   EXPECT_EQ(inTable("\"max-cells\": a whole number is needed"),
             refusalOfOne(R"(, "max-cells": 1.5)"));
-  EXPECT_EQ(inTable("\"max-cells\": \"0\" is no number from 1"),
+  EXPECT_EQ(inTable("\"max-cells\": \"0\" is no whole number from 1 up"),
             refusalOfOne(R"(, "max-cells": 0)"));
-  EXPECT_EQ(inTable("\"max-cells\": \"18446744073709551615\" is no number from 1"),
+  EXPECT_EQ(inTable("\"max-cells\": \"18446744073709551615\" is too large"),
             refusalOfOne(R"(, "max-cells": 18446744073709551615)"));
   EXPECT_EQ(inTable("\"names-in-corner\": true or false is needed"),
             refusalOfOne(R"(, "names-in-corner": 1)"));
   EXPECT_EQ(inTable("\"layer\": \"0\" is neither a number from 1 nor all"),
             refusalOfOne(R"(, "layer": 0)"));
-  EXPECT_EQ(inTable("\"layer\": a text is needed"), refusalOfOne(R"(, "layer": 1.5)"));
+  EXPECT_EQ(inTable("\"layer\": a whole number or \"all\" is needed"),
+            refusalOfOne(R"(, "layer": 1.5)"));
 }
 
 TEST(JobRefusal, OfTablesThatDoNotGoTogether) {

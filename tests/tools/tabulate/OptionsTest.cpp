@@ -100,9 +100,27 @@ TEST(Options, FormatFollowsTheNameOfTheFileUnlessItIsGiven) {
   EXPECT_EQ(OutputFormat::TEXT, parse({"-o", "p.html", "--format", "text"}).format);
 }
 
+TEST(Options, TextHasAWidthAndLines) {
+  EXPECT_EQ(std::nullopt, parse({}).width);
+  EXPECT_FALSE(parse({}).ascii);
+  EXPECT_EQ(0, parse({"--width", "0"}).width);
+  EXPECT_EQ(40, parse({"--width=40"}).width);
+  EXPECT_TRUE(parse({"--ascii"}).ascii);
+  const Options job = parseOptions({"run", "j.json", "--width", "72", "--ascii"});
+  EXPECT_EQ(72, job.width);
+  EXPECT_TRUE(job.ascii);
+}
+
 TEST(Options, ADashIsTheStandardInput) {
   EXPECT_EQ("-", parseOptions({"-", "--rows", "a"}).request.data);
   EXPECT_EQ("-", parseOptions({"--rows", "a", "-"}).request.data);
+}
+
+TEST(Options, BehindTwoDashesStandsAName) {
+  EXPECT_EQ("-x.csv", parseOptions({"--rows", "a", "--", "-x.csv"}).request.data);
+  EXPECT_EQ("d.csv", parseOptions({"d.csv", "--rows", "a", "--"}).request.data);
+  EXPECT_EQ("--", parseOptions({"--rows", "a", "--", "--"}).request.data);
+  EXPECT_EQ("-j.json", parseOptions({"run", "--", "-j.json"}).jobFile);
 }
 
 TEST(Options, RunTakesAJob) {

@@ -59,7 +59,7 @@ TEST(Request, HasMeasuresWithTheirStatisticsAndTheOtherWayRound) {
   request.statistics = {Statistic::N};
   EXPECT_EQ("", refusal(request));
   request.statistics = {Statistic::COUNT, Statistic::MEAN};
-  EXPECT_EQ("there is a statistic of a measure, but no measure", refusal(request));
+  EXPECT_EQ("there is no measure to take the \"mean\" of", refusal(request));
   request.measures = {"x"};
   EXPECT_EQ("", refusal(request));
   request.statistics = {Statistic::COUNT};
@@ -69,7 +69,7 @@ TEST(Request, HasMeasuresWithTheirStatisticsAndTheOtherWayRound) {
 TEST(Request, NamesAStatisticOnce) {
   TableRequest request = sound();
   request.statistics = {Statistic::COUNT, Statistic::N, Statistic::COUNT};
-  EXPECT_EQ("a statistic is given twice", refusal(request));
+  EXPECT_EQ("the statistic \"count\" is given twice", refusal(request));
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 #include "tools/tabulate/Failure.h"
 
 namespace om::test {
@@ -83,7 +85,7 @@ TEST(Words, LayersAreNumberedFromOne) {
   EXPECT_EQ(0, words::layer("1"));
   EXPECT_EQ(41, words::layer("42"));
   EXPECT_EQ(tabulate::TableRendering::kAllLayers, words::layer("all"));
-  for (const std::string text : {"0", "-1", "x", "1x", "", "99999999999"}) {
+  for (const std::string text : {"0", "-1", "x", "1x", "", "1.5", "-99999999999"}) {
     expectRefused('"' + text + "\" is neither a number from 1 nor all",
                   [&] { words::layer(text); });
   }
@@ -91,9 +93,36 @@ TEST(Words, LayersAreNumberedFromOne) {
 
 TEST(Words, CountsAreWholeNumbersFromOne) {
   EXPECT_EQ(5'000'000'000, words::count("5000000000"));
-  for (const std::string text : {"0", "-1", "1.5", "", "99999999999999999999"}) {
-    expectRefused('"' + text + "\" is no number from 1", [&] { words::count(text); });
+  for (const std::string text : {"0", "-1", "1.5", "1e6", "", " 1"}) {
+    expectRefused('"' + text + "\" is no whole number from 1 up", [&] { words::count(text); });
   }
+}
+
+TEST(Words, NumbersThatAreTooLargeAreCalledSo) {
+  EXPECT_EQ(INT64_MAX, words::count("9223372036854775807"));
+  EXPECT_EQ(INT32_MAX, words::width("2147483647"));
+  expectRefused("\"9223372036854775808\" is too large",
+                [] { words::count("9223372036854775808"); });
+  expectRefused("\"2147483648\" is too large", [] { words::layer("2147483648"); });
+  expectRefused("\"2147483648\" is too large", [] { words::width("2147483648"); });
+}
+
+TEST(Words, WidthsAreWholeNumbersAndZero) {
+  EXPECT_EQ(0, words::width("0"));
+  EXPECT_EQ(1, words::width("1"));
+  EXPECT_EQ(40, words::width("40"));
+  for (const std::string text : {"-1", "00", "4.0", "40x", " 40", "wide", ""}) {
+    expectRefused('"' + text + "\" is no whole number from 0 up", [&] { words::width(text); });
+  }
+}
+
+TEST(Words, NoAxisIsChosenByNoneAlone) {
+  const tabulate::PerAxis<bool> none = words::axesOrNone({"none"});
+  for (const Axis axis : tabulate::kAxes) EXPECT_FALSE(none[axis]);
+  EXPECT_TRUE(words::axesOrNone({"columns"})[Axis::COLUMNS]);
+  expectRefused("\"none\" is none of rows, columns, layers", [] {
+    words::axesOrNone({"rows", "none"});
+  });
 }
 
 }  // namespace
