@@ -12,9 +12,9 @@
 #include "render/internal/HtmlScript.h"
 #include "render/internal/HtmlStyle.h"
 #include "render/internal/Sha256.h"
-#include "tests/render/Golden.h"
 #include "tests/render/Html.h"
 #include "tests/render/SampleDocuments.h"
+#include "tests/support/Golden.h"
 
 namespace om::test {
 namespace {

@@ -10,8 +10,8 @@
 #include <string>
 
 #include "external/cells/OmComposite.h"
-#include "tests/render/Golden.h"
 #include "tests/render/SampleDocuments.h"
+#include "tests/support/Golden.h"
 
 namespace om::test {
 namespace {

@@ -8,8 +8,8 @@
 #include <sstream>
 #include <string>
 
-#include "tests/render/Golden.h"
 #include "tests/render/SampleDocuments.h"
+#include "tests/support/Golden.h"
 
 namespace om::test {
 namespace {

@@ -14,9 +14,9 @@
 
 #include "render/TextWriter.h"
 #include "render/internal/Utf8.h"
-#include "tests/render/Golden.h"
 #include "tests/render/SampleDocuments.h"
 #include "tests/support/Allocations.h"
+#include "tests/support/Golden.h"
 
 namespace om::test {
 namespace {

@@ -1,6 +1,7 @@
 # The grid view and what it is made of, and the writer of plain text.
 
-target_compile_definitions(render-tests PRIVATE OM_GOLDEN_DIR="${PROJECT_SOURCE_DIR}/tests/golden")
+target_compile_definitions(render-tests
+  PRIVATE OM_GOLDEN_DIR="${PROJECT_SOURCE_DIR}/tests/golden/render")
 target_sources(render-tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/DisplayWidthTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DocumentWalkTest.cpp

@@ -1,9 +1,9 @@
-// Compares what a writer writes with a golden file in tests/golden/render. With OM_REBASELINE set
-// in the environment, the file becomes what is written; look at the difference before committing
-// it.
+// Compares what is written with a golden file below the folder OM_GOLDEN_DIR, which the test
+// program defines. With OM_REBASELINE set in the environment, the file becomes what is written;
+// look at the difference before committing it.
 
-#ifndef OM_TESTS_RENDER_GOLDEN_H_
-#define OM_TESTS_RENDER_GOLDEN_H_
+#ifndef OM_TESTS_SUPPORT_GOLDEN_H_
+#define OM_TESTS_SUPPORT_GOLDEN_H_
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ inline std::string firstDifference(const std::string& expected, const std::strin
 
 // `name` is the file's, as in "text/flat.txt".
 inline void expectGolden(const std::string& name, const std::string& actual) {
-  const std::filesystem::path path = std::filesystem::path(OM_GOLDEN_DIR) / "render" / name;
+  const std::filesystem::path path = std::filesystem::path(OM_GOLDEN_DIR) / name;
   if (std::getenv("OM_REBASELINE") != nullptr) {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << actual;
@@ -50,4 +50,4 @@ inline void expectGolden(const std::string& name, const std::string& actual) {
 
 }  // namespace om::test
 
-#endif  // OM_TESTS_RENDER_GOLDEN_H_
+#endif  // OM_TESTS_SUPPORT_GOLDEN_H_
