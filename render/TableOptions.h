@@ -4,6 +4,7 @@
 #define OM_RENDER_TABLEOPTIONS_H_
 
 #include <map>
+#include <string_view>
 
 #include "render/Export.h"
 #include "render/FootnoteMarks.h"
@@ -53,6 +54,10 @@ class OM_RENDER_API LayerWalk {
 
   // Goes to the first layer, then to the next one; false when there is none.
   bool next();
+
+  // What is said in the place of a body, as in "(no cells)"; empty when the present view has one.
+  // REQUIRES: next() gave true, or count() is 0.
+  std::string_view noBody() const;
 
   // REQUIRES: next() gave true.
   const TableView& view() const { return *view_; }

@@ -7,7 +7,9 @@ target_sources(render-tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/DocumentWalkTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FootnoteMarksTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HeadingGridTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/HeadingNotesTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LayerWalkTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/NoLayerTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/NumberTextTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PlainTextTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TextDocumentTest.cpp
