@@ -52,6 +52,9 @@ class OM_RENDER_API LayerWalk {
   // The number of layers of the walk. 0 when all cells are empty and empty layers are skipped.
   std::uint64_t count() const { return count_; }
 
+  // The layers that are not skipped, walked or not, for looking at them before the first next().
+  OmDisplayLayerHeading& layers() { return layers_; }
+
   // Goes to the first layer, then to the next one; false when there is none.
   bool next();
 

@@ -160,31 +160,31 @@ void writeWithoutLayer(HtmlOut& out, const OmPivotTable& table, std::uint64_t nu
 
 void writeHtmlTable(HtmlOut& out, OmPivotTable& table, std::uint64_t number,
                     const std::string& name, const TableOptions& options) {
-  std::optional<HtmlChooser> chooser;
-  if (options.layers == Layers::ALL) chooser.emplace(table, options.skipEmptyLayers);
-  const bool isChooserNeeded = chooser && chooser->isNeeded();
-  if (isChooserNeeded) chooser->write(out, name);
-
   LayerWalk walk(table, options);
   if (walk.count() == 0) {
     writeWithoutLayer(out, table, number, name, walk.noBody(), options.marks);
+  }
+  std::optional<HtmlChooser> chooser;
+  if (walk.count() > 1) {
+    chooser.emplace(walk.layers());
+    chooser->write(out, name);
   }
   while (!out.failed() && walk.next()) {
     const TableView& view = walk.view();
     const std::string prefix = prefixOf(number, view.layer());
     HtmlNotes notes(out, walk.marks(), prefix);
     const HtmlLayer layer{out, view, notes, prefix};
-    if (isChooserNeeded) {
+    if (chooser) {
       if (chooser->isChosen(view.layer())) {
         out.markup("<section class=\"layer chosen\" data-at=\"");
       } else {
         out.markup("<section class=\"layer\" data-at=\"");
       }
-      chooser->writePositions(out, view.layer());
+      chooser->writePositions(out);
       out.markup("\">\n");
     }
     writeLayer(layer, name, walk.noBody());
-    if (isChooserNeeded) out.markup("</section>\n");
+    if (chooser) out.markup("</section>\n");
   }
 }
 
