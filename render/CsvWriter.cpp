@@ -44,10 +44,6 @@ class MostDimensions : public DocumentWalk {
   const AxisSizes& sizes() const { return sizes_; }
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
-  void text(Kind, const OmTextBlock&, int) override {}
-  void object(const Object&, int) override {}
   void table(OmPivotTable& table, int) override {
     const auto axes = axesOf(table);
     for (std::size_t a = 0; a < axes.size(); ++a) sizes_[a] = std::max(sizes_[a], axes[a]->size());
@@ -228,13 +224,10 @@ class CsvDocument : public DocumentWalk {
   }
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
-  void text(Kind, const OmTextBlock&, int) override {}
-  void object(const Object&, int) override {}
   void table(OmPivotTable& table, int) override {
-    if (sink_.ok()) TableRecords(table, ++tables_, options_, sizes_, sink_).writeCells();
+    TableRecords(table, ++tables_, options_, sizes_, sink_).writeCells();
   }
+  bool isDone() const override { return !sink_.ok(); }
 
   const CsvOptions& options_;
   const std::optional<AxisSizes> sizes_;

@@ -34,6 +34,10 @@ std::string_view typeOfImage(std::string_view image) {
   return {};
 }
 
+std::string labelOf(const OmOutputPart& part, const std::string& codePage) {
+  return internal::toUtf8(std::string(part.Label()), codePage);
+}
+
 }  // namespace
 
 DocumentWalk::~DocumentWalk() = default;
@@ -66,15 +70,23 @@ const char* DocumentWalk::nameOf(Kind kind) {
   return "";
 }
 
-std::vector<std::string> DocumentWalk::linesOf(const OmTextBlock& block) {
+std::vector<std::string> DocumentWalk::linesOf(const Text& text) {
   std::vector<std::string> lines;
-  for (const std::string& line : block.TextList()) {
-    lines.push_back(internal::toUtf8(line, block.LocaleCodePage()));
+  for (const std::string& line : text.part.TextList()) {
+    lines.push_back(internal::toUtf8(line, text.part.LocaleCodePage()));
   }
   return lines;
 }
 
+void DocumentWalk::beginHeading(const Heading&, int) {}
+void DocumentWalk::endHeading(int) {}
+void DocumentWalk::table(OmPivotTable&, int) {}
+void DocumentWalk::text(const Text&, int) {}
+void DocumentWalk::object(const Object&, int) {}
+bool DocumentWalk::isDone() const { return false; }
+
 void DocumentWalk::Enter(OmOutputPart* part, int level) {
+  if (isDone()) return Stop();
   depth_ = level;
   if (part == nullptr) return;
   if (!part->Visible()) {
@@ -89,49 +101,59 @@ void DocumentWalk::Leave(OmOutputPart* part, int level) {
   if (dynamic_cast<OmHeading*>(part) != nullptr) endHeading(level);
 }
 
-void DocumentWalk::tell(Kind kind, const OmOutputPart& part, const std::string& codePage,
-                        std::uint64_t bytes, std::string_view image) {
-  const std::string label = internal::toUtf8(std::string(part.Label()), codePage);
-  object({kind, label, bytes, image, typeOfImage(image)}, depth_);
+void DocumentWalk::tellText(Kind kind, const OmTextBlock& part) {
+  text({kind, labelOf(part, part.LocaleCodePage()), part}, depth_);
+}
+
+void DocumentWalk::tellObject(Kind kind, const OmOutputPart& part, const std::string& codePage,
+                              std::uint64_t bytes, std::string_view image) {
+  object({kind, labelOf(part, codePage), bytes, image, typeOfImage(image)}, depth_);
 }
 
 void DocumentWalk::Visit(OmInteractive& part) {
-  tell(Kind::INTERACTIVE, part, part.LocaleCodePage(),
-       part.viewInteractiveJSON().size() + bytesIn(part.viewGeoJSONContent()));
+  tellObject(Kind::INTERACTIVE, part, part.LocaleCodePage(),
+             part.viewInteractiveJSON().size() + bytesIn(part.viewGeoJSONContent()));
 }
 
 void DocumentWalk::Visit(OmModel& part) {
-  tell(Kind::MODEL, part, {},
-       part.viewPMML().size() + part.viewBinaryDataStream().size() +
-           part.viewPMMLContainer().size() + part.viewStatXMLContainer().size());
+  tellObject(Kind::MODEL, part, {},
+             part.viewPMML().size() + part.viewBinaryDataStream().size() +
+                 part.viewPMMLContainer().size() + part.viewStatXMLContainer().size());
 }
 
 void DocumentWalk::Visit(OmAnswerTree& part) {
-  tell(Kind::ANSWER_TREE, part, {},
-       part.viewPath().size() + part.viewCompressedXml().size() +
-           part.viewUncompressedXml().size() + part.viewUncompressedDisplayXML().size());
+  tellObject(Kind::ANSWER_TREE, part, {},
+             part.viewPath().size() + part.viewCompressedXml().size() +
+                 part.viewUncompressedXml().size() + part.viewUncompressedDisplayXML().size());
 }
 
 void DocumentWalk::Visit(OmChart& part) {
   const std::string_view image = part.viewImageData();
-  tell(Kind::CHART, part, part.LocaleCodePage(),
-       part.viewXmlDescription().size() + part.viewXmlData().size() + image.size() +
-           part.viewViZJSONData().size() + part.viewVizJSONTemplate().size() +
-           part.viewMapInfoBuffer().size() + bytesIn(part.viewCSVFiles()) +
-           bytesIn(part.viewGeoJSONContent()),
-       image);
+  tellObject(Kind::CHART, part, part.LocaleCodePage(),
+             part.viewXmlDescription().size() + part.viewXmlData().size() + image.size() +
+                 part.viewViZJSONData().size() + part.viewVizJSONTemplate().size() +
+                 part.viewMapInfoBuffer().size() + bytesIn(part.viewCSVFiles()) +
+                 bytesIn(part.viewGeoJSONContent()),
+             image);
 }
 
-void DocumentWalk::Visit(OmPageTitle& part) { text(Kind::PAGE_TITLE, part, depth_); }
+void DocumentWalk::Visit(OmPageTitle& part) { tellText(Kind::PAGE_TITLE, part); }
 
 void DocumentWalk::Visit(OmTextBlock& part) {
-  text(part.IsLog() ? Kind::LOG : Kind::TEXT, part, depth_);
+  tellText(part.IsLog() ? Kind::LOG : Kind::TEXT, part);
 }
 
-void DocumentWalk::Visit(OmHeading& part) { beginHeading(Kind::HEADING, part, depth_); }
+void DocumentWalk::Visit(OmHeading& part) {
+  beginHeading({Kind::HEADING, labelOf(part, {}), {}, part, nullptr}, depth_);
+}
 
-void DocumentWalk::Visit(OmProcedure& part) { beginHeading(Kind::PROCEDURE, part, depth_); }
+void DocumentWalk::Visit(OmProcedure& part) {
+  const std::string& codePage = part.LocaleCodePage();
+  beginHeading({Kind::PROCEDURE, labelOf(part, codePage), codePage, part, &part}, depth_);
+}
 
-void DocumentWalk::Visit(OmPivotTable& part) { table(part, depth_); }
+void DocumentWalk::Visit(OmPivotTable& part) {
+  if (part.Show()) table(part, depth_);
+}
 
 }  // namespace om::render

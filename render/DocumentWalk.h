@@ -2,7 +2,11 @@
 // show. It brings the kinds of parts down to five: headings, which have parts below them, tables,
 // texts, images and other objects, of which a name and a size are shown.
 //
-// Parts that are not visible are left out, with what is below them.
+// Parts that are not visible are left out, with what is below them; so is a table that is not to be
+// shown, but not what is below it.
+//
+// Labels and lines come in UTF-8: what is not UTF-8 already is read in the code page of its part;
+// what is not of that either is replaced by U+FFFD.
 //
 // Ownership, lifetime, threads: as OmOutputWalker. Errors: what the writer throws is passed on.
 
@@ -42,6 +46,24 @@ class OM_RENDER_API DocumentWalk : private OmOutputWalker {
   };
   static const char* nameOf(Kind kind);  // as in "Answer tree"
 
+  // A heading or procedure.
+  struct Heading {
+    Kind kind;
+    std::string label;
+    std::string codePage;  // of its footnotes, too; empty when it has none
+    const OmHeading& part;
+    const OmProcedure* procedure;  // the same part; null in a plain heading
+  };
+
+  // A text block, a log or a page title.
+  struct Text {
+    Kind kind;
+    std::string label;
+    const OmTextBlock& part;
+  };
+  // Its lines, without line ends.
+  static std::vector<std::string> linesOf(const Text& text);
+
   // A part that is shown by its name and size.
   struct Object {
     Kind kind;
@@ -53,16 +75,17 @@ class OM_RENDER_API DocumentWalk : private OmOutputWalker {
     std::string_view imageType;
   };
 
-  // A heading or procedure, and the end of what is below it. `depth` is 1 below the root.
-  virtual void beginHeading(Kind kind, OmHeading& heading, int depth) = 0;
-  virtual void endHeading(int depth) = 0;
-  virtual void table(OmPivotTable& table, int depth) = 0;
-  // A text block, a log or a page title.
-  virtual void text(Kind kind, const OmTextBlock& block, int depth) = 0;
-  // Its lines in UTF-8, without line ends. What is not UTF-8 already is read in the block's code
-  // page; what is not of that either is replaced by U+FFFD.
-  static std::vector<std::string> linesOf(const OmTextBlock& block);
-  virtual void object(const Object& object, int depth) = 0;
+  // These tell of the parts, and do nothing unless they are overridden. `depth` is 1 below the
+  // root. A heading has an end, behind what is below it.
+  virtual void beginHeading(const Heading& heading, int depth);
+  virtual void endHeading(int depth);
+  virtual void table(OmPivotTable& table, int depth);
+  virtual void text(const Text& text, int depth);
+  virtual void object(const Object& object, int depth);
+
+  // Asked before each part: true ends the walk, as when there is nobody left to write for. The ends
+  // of headings are not told then. False unless it is overridden.
+  virtual bool isDone() const;
 
  private:
   void Enter(OmOutputPart* part, int level) override;
@@ -76,8 +99,9 @@ class OM_RENDER_API DocumentWalk : private OmOutputWalker {
   void Visit(OmHeading& part) override;
   void Visit(OmProcedure& part) override;
   void Visit(OmPivotTable& part) override;
-  void tell(Kind kind, const OmOutputPart& part, const std::string& codePage, std::uint64_t bytes,
-            std::string_view image = {});
+  void tellText(Kind kind, const OmTextBlock& part);
+  void tellObject(Kind kind, const OmOutputPart& part, const std::string& codePage,
+                  std::uint64_t bytes, std::string_view image = {});
 
   int depth_ = 0;
 };

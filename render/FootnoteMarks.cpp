@@ -1,11 +1,12 @@
 #include "render/FootnoteMarks.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
 #include <set>
 
 #include "pivot/OmPivotTable.h"
+#include "render/internal/FootnoteNumbers.h"
+#include "render/internal/Utf8.h"
 
 namespace om::render {
 
@@ -40,31 +41,55 @@ void visitTexts(const TableView& view, const auto& visit) {
     view.row(row, cells);
     for (const OmCellText* const cell : cells) visit(cell);
   }
-  visit(table.Caption());
+  visit(captionOf(table));
 }
 
 }  // namespace
 
-FootnoteMarks::FootnoteMarks(const TableView& view, Marks marks) {
-  const OmVector<OmFootnote>& footnotes = view.table().Footnotes();
-  if (footnotes.empty()) return;
-  places_.assign(footnotes.size(), kNowhere);
-  visitTexts(view, [&](const OmCellText* text) {
-    if (text == nullptr) return;
-    for (const short number : text->Footnotes()) {
-      const auto which = static_cast<std::size_t>(number);
-      if (which >= places_.size() || places_[which] != kNowhere) continue;
-      places_[which] = notes_.size();
-      notes_.push_back({which, {}, footnotes[which].Text()});
-    }
-  });
+FootnoteMarks::FootnoteMarks(const Footnotes& footnotes) : places_(footnotes.size(), kNowhere) {}
 
+FootnoteMarks::FootnoteMarks(const TableView& view, Marks marks)
+    : FootnoteMarks(view.table().Footnotes()) {
+  if (places_.empty()) return;
+  visitTexts(view, [&](const OmCellText* text) { use(text); });
+  complete(view.table().Footnotes(), {}, marks);
+}
+
+FootnoteMarks::FootnoteMarks(const OmPivotTable& table, Marks marks)
+    : FootnoteMarks(table.Footnotes()) {
+  use(&titleOf(table));
+  use(captionOf(table));
+  complete(table.Footnotes(), {}, marks);
+}
+
+FootnoteMarks::FootnoteMarks(const OmHeading& heading, const std::string& codePage, Marks marks)
+    : FootnoteMarks(heading.Footnotes()) {
+  use(&heading.Label());
+  complete(heading.Footnotes(), codePage, marks);
+}
+
+// Notes the footnotes of a text that no text before it has.
+void FootnoteMarks::use(const OmCellText* text) {
+  if (text == nullptr) return;
+  for (const short number : text->Footnotes()) {
+    const auto which = static_cast<std::size_t>(number);
+    if (which >= places_.size() || places_[which] != kNowhere) continue;
+    places_[which] = notes_.size();
+    notes_.push_back({which, {}, {}});
+  }
+}
+
+// Gives the notes their texts and marks.
+void FootnoteMarks::complete(const Footnotes& footnotes, const std::string& codePage, Marks marks) {
+  const auto read = [&](const OmCellText* text) {
+    return text != nullptr ? internal::toUtf8(std::string(*text), codePage) : std::string();
+  };
   std::set<std::string> taken;
   for (Note& note : notes_) {
-    if (const OmCellText* const marker = footnotes[note.number].Marker()) {
-      note.mark = std::string(*marker);
-      taken.insert(note.mark);
-    }
+    const OmFootnote& footnote = footnotes[note.number];
+    note.text = read(footnote.Text());
+    note.mark = read(footnote.Marker());
+    if (footnote.Marker() != nullptr) taken.insert(note.mark);
   }
   std::size_t count = 0;
   for (Note& note : notes_) {
@@ -77,14 +102,9 @@ FootnoteMarks::FootnoteMarks(const TableView& view, Marks marks) {
 
 std::vector<std::size_t> FootnoteMarks::notesOf(const OmCellText* text) const {
   std::vector<std::size_t> notes;
-  if (text == nullptr || places_.empty()) return notes;
-  for (const short number : text->Footnotes()) {
-    const auto which = static_cast<std::size_t>(number);
-    if (which >= places_.size() || places_[which] == kNowhere) continue;
-    if (std::find(notes.begin(), notes.end(), places_[which]) == notes.end()) {
-      notes.push_back(places_[which]);
-    }
-  }
+  internal::readFootnoteNumbers(text, places_.size(), notes);
+  for (std::size_t& note : notes) note = places_[note];
+  std::erase(notes, kNowhere);
   return notes;
 }
 

@@ -3,20 +3,18 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "output/OmHeading.h"
-#include "output/OmProcedure.h"
-#include "output/OmTextBlock.h"
 #include "pivot/OmPivotTable.h"
 #include "render/DocumentWalk.h"
+#include "render/internal/HtmlNotes.h"
 #include "render/internal/HtmlOut.h"
 #include "render/internal/HtmlScript.h"
 #include "render/internal/HtmlStyle.h"
 #include "render/internal/HtmlTable.h"
 #include "render/internal/Sha256.h"
-#include "render/internal/Utf8.h"
 
 namespace om::render {
 
@@ -72,19 +70,13 @@ class PartWalk : public DocumentWalk {
   static std::string nameOf(Kind kind, const std::string& label) {
     return isBlank(label) ? DocumentWalk::nameOf(kind) : label;
   }
-  static std::string nameOf(Kind kind, const OmHeading& heading) {
-    const auto* const procedure = dynamic_cast<const OmProcedure*>(&heading);
-    const std::string codePage = procedure != nullptr ? procedure->LocaleCodePage() : "";
-    return nameOf(kind, internal::toUtf8(std::string(heading.Label()), codePage));
-  }
   static std::string nameOf(const OmPivotTable& table) {
     return nameOf(Kind::TABLE, std::string(titleOf(table)));
   }
-  static std::string labelOf(const OmTextBlock& block) {
-    return internal::toUtf8(std::string(block.Label()), block.LocaleCodePage());
-  }
 
  private:
+  bool isDone() const override { return out_.failed(); }
+
   HtmlOut& out_;
   std::uint64_t parts_ = 0;
 };
@@ -101,10 +93,10 @@ class Outline : public PartWalk {
   }
 
  private:
-  void beginHeading(Kind kind, OmHeading& heading, int) override {
+  void beginHeading(const Heading& heading, int) override {
     beginItem();
     out().markup("<a class=\"heading\" href=\"#p").number(nextPart()).markup("\">");
-    out().isolated(nameOf(kind, heading)).markup("</a>");
+    out().isolated(nameOf(heading.kind, heading.label)).markup("</a>");
     hasList_.push_back(false);
   }
 
@@ -116,8 +108,8 @@ class Outline : public PartWalk {
 
   void table(OmPivotTable& table, int) override { item(nameOf(table)); }
 
-  void text(Kind kind, const OmTextBlock& block, int) override {
-    item(nameOf(kind, kind == Kind::PAGE_TITLE ? std::string() : labelOf(block)));
+  void text(const Text& text, int) override {
+    item(nameOf(text.kind, text.kind == Kind::PAGE_TITLE ? std::string() : text.label));
   }
 
   void object(const Object& object, int) override { item(nameOf(object.kind, object.label)); }
@@ -159,12 +151,17 @@ class Content : public PartWalk {
   // The heading of the page has level 1.
   static constexpr std::size_t kDeepestHeading = 6;
 
-  void beginHeading(Kind kind, OmHeading& heading, int) override {
-    out().markup("<section id=\"p").number(nextPart()).markup("\">\n");
+  void beginHeading(const Heading& heading, int) override {
+    const std::string id = 'p' + std::to_string(nextPart());
+    const FootnoteMarks marks(heading.part, heading.codePage, options_.tables.marks);
+    internal::HtmlNotes notes(out(), marks, id);
+    out().markup("<section id=\"").ids(id).markup("\">\n");
     ++openHeadings_;
     out().markup("<h").number(headingLevel()).markup(">");
-    out().isolated(nameOf(kind, heading));
+    out().isolated(nameOf(heading.kind, heading.label));
+    notes.writeMarks(&heading.part.Label(), false);
     out().markup("</h").number(headingLevel()).markup(">\n");
+    notes.writeList();
   }
 
   void endHeading(int) override {
@@ -173,35 +170,31 @@ class Content : public PartWalk {
   }
 
   void table(OmPivotTable& table, int) override {
-    if (out().failed()) return;
     out().markup("<div class=\"part\" id=\"p").number(nextPart()).markup("\">\n");
     internal::writeHtmlTable(out(), table, ++tables_, nameOf(table), options_.tables.of(table));
     out().markup("</div>\n");
   }
 
-  void text(Kind kind, const OmTextBlock& block, int) override {
-    if (out().failed()) return;
+  void text(const Text& text, int) override {
     out().markup("<div class=\"part ");
-    if (kind == Kind::PAGE_TITLE) {
+    if (text.kind == Kind::PAGE_TITLE) {
       out().markup("page-title words");
-    } else if (kind == Kind::LOG) {
+    } else if (text.kind == Kind::LOG) {
       out().markup("log");
     } else {
       out().markup("words");
     }
     out().markup("\" id=\"p").number(nextPart()).markup("\">\n");
-    if (kind == Kind::LOG) {
-      writeLabel(kind, block);
-      writeLog(block);
+    if (text.kind != Kind::PAGE_TITLE) writeLabel(text);
+    if (text.kind == Kind::LOG) {
+      writeLog(text);
     } else {
-      if (kind == Kind::TEXT) writeLabel(kind, block);
-      writeParagraphs(block, kind == Kind::PAGE_TITLE);
+      writeParagraphs(text);
     }
     out().markup("</div>\n");
   }
 
   void object(const Object& object, int) override {
-    if (out().failed()) return;
     const std::string name = nameOf(object.kind, object.label);
     const std::uint64_t part = nextPart();
     if (!object.image.empty() && !object.imageType.empty()) {
@@ -239,27 +232,27 @@ class Content : public PartWalk {
     out().text(kPrefixes.substr(prefix, 1)).markup("B");
   }
 
-  void writeLabel(Kind kind, const OmTextBlock& block) {
+  void writeLabel(const Text& text) {
     const std::size_t level = std::min(openHeadings_ + 2, kDeepestHeading);
     out().markup("<h").number(level).markup(" class=\"label\">");
-    out().isolated(nameOf(kind, labelOf(block)));
+    out().isolated(nameOf(text.kind, text.label));
     out().markup("</h").number(level).markup(">\n");
   }
 
-  void writeLog(const OmTextBlock& block) {
+  void writeLog(const Text& text) {
     out().markup("<pre class=\"scroll\" role=\"group\" tabindex=\"0\" aria-label=\"");
-    out().attribute(nameOf(Kind::LOG, labelOf(block)));
+    out().attribute(nameOf(text.kind, text.label));
     out().markup("\">\n");  // a parser drops this line end, and so none of the log's own
-    for (const std::string& line : linesOf(block)) out().preformatted(line).markup("\n");
+    for (const std::string& line : linesOf(text)) out().preformatted(line).markup("\n");
     out().markup("</pre>\n");
   }
 
   // Blank lines are between paragraphs; each line of a page title is one of its own.
-  void writeParagraphs(const OmTextBlock& block, bool isTitle) {
+  void writeParagraphs(const Text& text) {
     bool isOpen = false;
-    for (const std::string& line : linesOf(block)) {
+    for (const std::string& line : linesOf(text)) {
       const bool isBreak = isBlank(line);
-      if (isOpen && (isBreak || isTitle)) {
+      if (isOpen && (isBreak || text.kind == Kind::PAGE_TITLE)) {
         out().markup("</p>\n");
         isOpen = false;
       }

@@ -14,13 +14,10 @@ class Collection : public DocumentWalk {
       : options_(options), json_(json) {}
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
-  void text(Kind, const OmTextBlock&, int) override {}
-  void object(const Object&, int) override {}
   void table(OmPivotTable& table, int) override {
-    if (json_.ok()) internal::writeJsonStatDataset(table, options_, json_);
+    internal::writeJsonStatDataset(table, options_, json_);
   }
+  bool isDone() const override { return !json_.ok(); }
 
   const JsonStatOptions& options_;
   internal::JsonEmitter& json_;

@@ -1,11 +1,13 @@
 #include "render/JsonWriter.h"
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include "output/OmHeading.h"
 #include "output/OmProcedure.h"
-#include "output/OmTextBlock.h"
 #include "render/DocumentWalk.h"
+#include "render/internal/FootnoteNumbers.h"
 #include "render/internal/JsonTable.h"
 #include "render/internal/Utf8.h"
 
@@ -58,21 +60,28 @@ class JsonDocument : public DocumentWalk {
     return "";
   }
 
+  bool isDone() const override { return !json_.ok(); }
+
   void begin(Kind kind, std::string_view label) {
     json_.beginObject();
     json_.member("kind", nameOf(kind));
     json_.member("label", label);
   }
 
-  void beginHeading(Kind kind, OmHeading& heading, int) override {
-    const auto* const procedure = dynamic_cast<const OmProcedure*>(&heading);
-    const std::string codePage = procedure != nullptr ? procedure->LocaleCodePage() : "";
-    begin(kind, toUtf8(std::string(heading.Label()), codePage));
-    if (procedure != nullptr) writeProcedure(*procedure);
-    json_.member("expanded", heading.Expanded());
-    internal::writeJsonFootnotes(heading.Footnotes(), json_);
+  void beginHeading(const Heading& heading, int) override {
+    begin(heading.kind, heading.label);
+    writeLabelFootnotes(heading.part);
+    if (heading.procedure != nullptr) writeProcedure(*heading.procedure);
+    json_.member("expanded", heading.part.Expanded());
+    internal::writeJsonFootnotes(heading.part.Footnotes(), heading.codePage, json_);
     json_.key("parts");
     json_.beginArray();
+  }
+
+  void writeLabelFootnotes(const OmHeading& heading) {
+    std::vector<std::size_t> numbers;
+    internal::readFootnoteNumbers(&heading.Label(), heading.Footnotes().size(), numbers);
+    if (!numbers.empty()) json_.member("labelFootnotes", numbers);
   }
 
   void writeProcedure(const OmProcedure& procedure) {
@@ -90,23 +99,19 @@ class JsonDocument : public DocumentWalk {
   }
 
   void table(OmPivotTable& table, int) override {
-    if (json_.ok()) internal::writeJsonTable(table, options_, json_);
+    internal::writeJsonTable(table, options_, json_);
   }
 
-  void text(Kind kind, const OmTextBlock& block, int) override {
-    if (!json_.ok()) return;
-    begin(kind, toUtf8(std::string(block.Label()), block.LocaleCodePage()));
+  void text(const Text& text, int) override {
+    begin(text.kind, text.label);
     json_.key("lines");
     json_.beginArray();
-    for (const std::string& line : block.TextList()) {
-      json_.string(toUtf8(line, block.LocaleCodePage()));
-    }
+    for (const std::string& line : linesOf(text)) json_.string(line);
     json_.end();
     json_.end();
   }
 
   void object(const Object& object, int) override {
-    if (!json_.ok()) return;
     begin(object.kind, object.label);
     json_.member("bytes", object.bytes);
     if (!object.image.empty()) {

@@ -26,4 +26,10 @@ bool LayerWalk::next() {
   return true;
 }
 
+std::string_view LayerWalk::noBody() const {
+  if (view_ == nullptr && layers_.NLayers() != 0) return "(no such layer)";
+  const bool hasBody = view_ != nullptr && view_->rowCount() != 0 && view_->columnCount() != 0;
+  return hasBody ? "" : "(no cells)";
+}
+
 }  // namespace om::render

@@ -4,6 +4,7 @@
 #define OM_RENDER_TABLEOPTIONS_H_
 
 #include <map>
+#include <string_view>
 
 #include "render/Export.h"
 #include "render/FootnoteMarks.h"
@@ -51,8 +52,15 @@ class OM_RENDER_API LayerWalk {
   // The number of layers of the walk. 0 when all cells are empty and empty layers are skipped.
   std::uint64_t count() const { return count_; }
 
+  // The layers that are not skipped, walked or not, for looking at them before the first next().
+  OmDisplayLayerHeading& layers() { return layers_; }
+
   // Goes to the first layer, then to the next one; false when there is none.
   bool next();
+
+  // What is said in the place of a body, as in "(no cells)"; empty when the present view has one.
+  // REQUIRES: next() gave true, or count() is 0.
+  std::string_view noBody() const;
 
   // REQUIRES: next() gave true.
   const TableView& view() const { return *view_; }

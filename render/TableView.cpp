@@ -189,4 +189,8 @@ const OmCellText& titleOf(const OmPivotTable& table) {
   return title != nullptr ? *title : table.Label();
 }
 
+const OmCellText* captionOf(const OmPivotTable& table) {
+  return table.showCaption() ? table.Caption() : nullptr;
+}
+
 }  // namespace om::render

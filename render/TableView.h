@@ -10,9 +10,9 @@
 //
 // Ownership, lifetime: a view refers to its layer heading and must not outlive it, nor the table
 //   change while the view lives. Threads: one at a time, together with its layer heading.
-// Errors: std::bad_alloc, std::length_error. REQUIRES: an axis shows less than 2^31 rows or
-// columns. Cost: building takes constant time for each label of each row and column shown, and what
-// skipping
+// Errors: std::bad_alloc, std::length_error.
+// REQUIRES: an axis shows less than 2^31 rows or columns.
+// Cost: building takes constant time for each label of each row and column shown, and what skipping
 //   costs (see OmDisplayColumnHeading); a cell takes two heading lookups and one of the cell.
 
 #ifndef OM_RENDER_TABLEVIEW_H_
@@ -133,6 +133,8 @@ class OM_RENDER_API TableView {
 
 // The title that stands over a table: its table title, or its label when that is not set.
 OM_RENDER_API const OmCellText& titleOf(const OmPivotTable& table);
+// The caption that stands under a table, or null: there may be none, or it is not to be shown.
+OM_RENDER_API const OmCellText* captionOf(const OmPivotTable& table);
 
 }  // namespace om::render
 

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "output/OmHeading.h"
 #include "output/OmTextBlock.h"
 #include "pivot/OmPivotTable.h"
 #include "render/DocumentWalk.h"
@@ -15,7 +14,6 @@
 #include "render/internal/ShownText.h"
 #include "render/internal/TextPage.h"
 #include "render/internal/TextTable.h"
-#include "render/internal/Utf8.h"
 
 namespace om::render {
 
@@ -57,6 +55,26 @@ std::string expandTabs(std::string_view text) {
   return expanded.append(text);
 }
 
+// As in "[a,b]".
+std::string inBrackets(std::string_view marks) {
+  std::string room;
+  std::string text = "[";
+  text += internal::plainLine(marks, room);
+  text += ']';
+  return text;
+}
+
+// One paragraph each.
+void writeNotes(TextPage& page, const FootnoteMarks& marks) {
+  std::string room;
+  for (const FootnoteMarks::Note& note : marks.notes()) {
+    std::string line = inBrackets(note.mark);
+    const std::size_t hang = internal::displayWidth(line) + 1;
+    if (!note.text.empty()) line.append(" ").append(internal::plainText(note.text, room));
+    page.paragraph(line, {.hang = hang});
+  }
+}
+
 class TableWriter {
  public:
   TableWriter(TextPage& page, const DocumentTableOptions& options)
@@ -65,31 +83,37 @@ class TableWriter {
   void write(OmPivotTable& table) {
     const TableOptions& options = options_.of(table);
     LayerWalk walk(table, options);
-    if (walk.count() == 0) {
-      page_.beginBlock();
-      std::string room;
-      page_.paragraph(internal::plainText(std::string(titleOf(table)), room));
-      page_.paragraph(options.layers == Layers::ONE ? "(no such layer)" : kNoCells);
-    }
-    while (page_.sink().ok() && walk.next()) writeLayer(walk.view(), walk.marks());
+    if (walk.count() == 0) writeWithoutLayer(table, walk.noBody(), options.marks);
+    while (page_.sink().ok() && walk.next()) writeLayer(walk);
   }
 
  private:
-  static constexpr std::string_view kNoCells = "(no cells)";
-
-  void writeLayer(const TableView& view, const FootnoteMarks& marks) {
+  void writeWithoutLayer(const OmPivotTable& table, std::string_view message, Marks defaultMarks) {
+    const FootnoteMarks marks(table, defaultMarks);
     TableReader reader(marks);
+    page_.beginBlock();
+    writeText(reader, titleOf(table));
+    page_.paragraph(message);
+    writeUnder(reader, table, marks);
+  }
+
+  void writeLayer(const LayerWalk& walk) {
+    const TableView& view = walk.view();
+    TableReader reader(walk.marks());
     page_.beginBlock();
     writeText(reader, titleOf(view.table()));
     for (const TableView::LayerLabel& label : view.layerLabels()) writeLabel(reader, label);
-    if (view.rowCount() == 0 || view.columnCount() == 0) {
-      page_.paragraph(kNoCells);
+    if (walk.noBody().empty()) {
+      writeGrid(view, walk.marks());
     } else {
-      writeGrid(view, marks);
+      page_.paragraph(walk.noBody());
     }
-    writeNotes(marks);
-    const OmCellText* const caption = view.table().Caption();
-    if (caption != nullptr && view.table().showCaption()) writeText(reader, *caption);
+    writeUnder(reader, view.table(), walk.marks());
+  }
+
+  void writeUnder(TableReader& reader, const OmPivotTable& table, const FootnoteMarks& marks) {
+    writeNotes(page_, marks);
+    if (const OmCellText* const caption = captionOf(table)) writeText(reader, *caption);
   }
 
   void writeText(TableReader& reader, const OmCellText& text) {
@@ -118,20 +142,6 @@ class TableWriter {
     }
   }
 
-  void writeNotes(const FootnoteMarks& marks) {
-    std::string room;
-    for (const FootnoteMarks::Note& note : marks.notes()) {
-      std::string line = "[";
-      line += internal::plainLine(note.mark, room);
-      line += ']';
-      const std::size_t hang = internal::displayWidth(line) + 1;
-      if (note.text != nullptr) {
-        line.append(" ").append(internal::plainText(std::string(*note.text), room));
-      }
-      page_.paragraph(line, {.hang = hang});
-    }
-  }
-
   TextPage& page_;
   const DocumentTableOptions& options_;
 };
@@ -139,17 +149,23 @@ class TableWriter {
 class TextWriter : public DocumentWalk {
  public:
   TextWriter(TextPage& page, const TextOptions& options)
-      : page_(page), tables_(page, options.tables) {}
+      : page_(page), defaultMarks_(options.tables.marks), tables_(page, options.tables) {}
 
  private:
-  void beginHeading(Kind /*kind*/, OmHeading& heading, int depth) override {
+  bool isDone() const override { return !page_.sink().ok(); }
+
+  // The marks of a heading without a label stand alone.
+  void beginHeading(const Heading& heading, int depth) override {
+    const FootnoteMarks marks(heading.part, heading.codePage, defaultMarks_);
     std::string room;
-    const std::string label(heading.Label());
-    if (label.empty() || !page_.sink().ok()) return;
+    std::string label(internal::plainText(heading.label, room));
+    if (!marks.notes().empty()) label += inBrackets(marks.marksOf(&heading.part.Label()));
+    if (label.empty()) return;
     page_.beginBlock();
-    const std::size_t width = page_.paragraph(internal::plainText(label, room));
+    const std::size_t width = page_.paragraph(label);
     page_.repeated(underline(depth), width);
     page_.emptyLine();
+    writeNotes(page_, marks);
   }
 
   std::string_view underline(int depth) const {
@@ -158,34 +174,27 @@ class TextWriter : public DocumentWalk {
     return page_.ascii() ? "." : "┈";
   }
 
-  void endHeading(int /*depth*/) override {}
-
-  void table(OmPivotTable& table, int /*depth*/) override {
-    if (page_.sink().ok()) tables_.write(table);
-  }
+  void table(OmPivotTable& table, int /*depth*/) override { tables_.write(table); }
 
   // Lines of a page title are centred, those of a log have a line beside them.
-  void text(Kind kind, const OmTextBlock& block, int /*depth*/) override {
-    if (!page_.sink().ok()) return;
-    const std::string label = internal::toUtf8(std::string(block.Label()), block.LocaleCodePage());
-    if (label.empty() && block.Size() == 0) return;
+  void text(const Text& text, int /*depth*/) override {
+    if (text.label.empty() && text.part.Size() == 0) return;
     page_.beginBlock();
     TextPage::Style style;
-    if (kind == Kind::PAGE_TITLE) style.align = internal::Align::CENTRE;
+    if (text.kind == Kind::PAGE_TITLE) style.align = internal::Align::CENTRE;
     std::string room;
-    if (!label.empty()) {
-      page_.paragraph(internal::plainText(label, room));
-      style.prefix = kind != Kind::LOG ? "  " : page_.ascii() ? "| " : "│ ";
+    if (!text.label.empty()) {
+      page_.paragraph(internal::plainText(text.label, room));
+      style.prefix = text.kind != Kind::LOG ? "  " : page_.ascii() ? "| " : "│ ";
       style.prefixWidth = 2;
     }
-    for (const std::string& line : linesOf(block)) {
+    for (const std::string& line : linesOf(text)) {
       page_.paragraph(internal::plainText(expandTabs(line), room), style);
     }
   }
 
   // As in "[Chart: Mass by species] image/png, 12.3 KiB".
   void object(const Object& object, int /*depth*/) override {
-    if (!page_.sink().ok()) return;
     std::string room;
     std::string line = std::string("[") + nameOf(object.kind);
     if (!object.label.empty()) line.append(": ").append(internal::plainLine(object.label, room));
@@ -197,6 +206,7 @@ class TextWriter : public DocumentWalk {
   }
 
   TextPage& page_;
+  const Marks defaultMarks_;
   TableWriter tables_;
 };
 

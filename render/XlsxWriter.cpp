@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "pivot/OmPivotTable.h"
@@ -33,10 +34,6 @@ class SheetCount : public DocumentWalk {
   std::uint64_t count() const { return count_; }
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
-  void text(Kind, const OmTextBlock&, int) override {}
-  void object(const Object&, int) override {}
   void table(OmPivotTable& table, int) override {
     count_ += std::max<std::uint64_t>(LayerWalk(table, options_.of(table)).count(), 1);
   }
@@ -48,29 +45,32 @@ class SheetCount : public DocumentWalk {
 // One sheet, written from the top down.
 class Sheet {
  public:
-  Sheet(Workbook& workbook, const std::string& name)
-      : workbook_(workbook), sheet_(workbook.addSheet(name)) {}
+  Sheet(Workbook& workbook, const std::string& name, const FootnoteMarks& marks)
+      : workbook_(workbook), sheet_(workbook.addSheet(name)), marks_(marks) {}
 
-  void write(const OmPivotTable& table) {
-    writeLine(&titleOf(table), nullptr, Style::TITLE);
-    writeCaption(table, nullptr);
+  // A table without a layer.
+  void write(const OmPivotTable& table, std::string_view message) {
+    writeLine(&titleOf(table), Style::TITLE);
+    writeMessage(message);
+    writeUnder(table);
   }
 
-  void write(const TableView& view, const FootnoteMarks& marks) {
-    marks_ = &marks;
+  void write(const LayerWalk& walk) {
+    const TableView& view = walk.view();
     labelColumns_ = view.rows().levels();
     requireRoom(view);
     widths_.assign(labelColumns_ + view.columnCount(), kLeastWidth);
-    writeLine(&titleOf(view.table()), marks_, Style::TITLE);
+    writeLine(&titleOf(view.table()), Style::TITLE);
     for (const TableView::LayerLabel& label : view.layerLabels()) writeLayer(label);
-    writeHeading(view);
-    if (view.rowCount() != 0 && view.columnCount() != 0) {
+    if (walk.noBody().empty()) {
+      writeHeading(view);
       worksheet_freeze_panes(sheet_, static_cast<lxw_row_t>(row_),
                              static_cast<lxw_col_t>(labelColumns_));
+      writeBody(view);
+    } else {
+      writeMessage(walk.noBody());
     }
-    writeBody(view);
-    writeCaption(view.table(), marks_);
-    writeNotes();
+    writeUnder(view.table());
     for (std::size_t i = 0; i < widths_.size(); ++i) workbook_.setWidth(sheet_, i, widths_[i]);
   }
 
@@ -87,10 +87,6 @@ class Sheet {
                              " columns, which is too large for a sheet");
   }
 
-  std::string marksOf(const OmCellText* text) const {
-    return marks_ != nullptr ? marks_->marksOf(text) : std::string();
-  }
-
   void writeText(std::uint64_t row, std::uint64_t column, const std::string& text,
                  const std::string& marks, Style style) {
     const std::string raised = internal::xlsxText(marks, 1000);
@@ -99,12 +95,14 @@ class Sheet {
   }
 
   void writeText(std::uint64_t row, std::uint64_t column, const OmCellText* text, Style style) {
-    if (text != nullptr) writeText(row, column, std::string(read_(text)), marksOf(text), style);
+    if (text == nullptr) return;
+    writeText(row, column, std::string(read_(text)), marks_.marksOf(text), style);
   }
 
-  void writeLine(const OmCellText* text, const FootnoteMarks* marks, Style style) {
-    writeText(row_++, 0, std::string(read_(text)),
-              marks != nullptr ? marks->marksOf(text) : std::string(), style);
+  void writeLine(const OmCellText* text, Style style) { writeText(row_++, 0, text, style); }
+
+  void writeMessage(std::string_view message) {
+    writeText(row_++, 0, std::string(message), {}, Style::TEXT);
   }
 
   // "Dimension: group: category", each with its marks.
@@ -113,7 +111,7 @@ class Sheet {
     for (const OmDimensionNode* const node : label.path) {
       if (!line.empty()) line += ": ";
       line += read_(node->Text());
-      const std::string marks = marksOf(node->Text());
+      const std::string marks = marks_.marksOf(node->Text());
       if (!marks.empty()) line += " (" + marks + ')';
     }
     writeText(row_++, 0, line, {}, Style::LAYER);
@@ -174,7 +172,7 @@ class Sheet {
     widen(column, read_(&cell));
     const OmNumber* const number = internal::numberOf(&cell);
     if (number != nullptr && internal::isAllOf(cell, *number)) {
-      const std::string marks = marksOf(&cell);
+      const std::string marks = marks_.marksOf(&cell);
       const std::string code = internal::xlsxNumberFormat(*number, marks);
       if (internal::fitXlsxFormat(marks) && workbook_.hasFormat(code)) {
         return workbook_.writeNumber(sheet_, row_, column, number->Value(), code);
@@ -183,24 +181,21 @@ class Sheet {
     writeText(row_, column, &cell, Style::TEXT);
   }
 
-  void writeCaption(const OmPivotTable& table, const FootnoteMarks* marks) {
-    if (table.Caption() == nullptr) return;
-    ++row_;
-    writeLine(table.Caption(), marks, Style::TEXT);
-  }
-
-  void writeNotes() {
-    if (!marks_->notes().empty()) ++row_;
-    for (const FootnoteMarks::Note& note : marks_->notes()) {
-      std::string line = note.mark + ". ";
-      line += read_(note.text);
-      writeText(row_++, 0, line, {}, Style::TEXT);
+  // The caption and the footnotes, each with an empty row above it.
+  void writeUnder(const OmPivotTable& table) {
+    if (const OmCellText* const caption = captionOf(table)) {
+      ++row_;
+      writeLine(caption, Style::TEXT);
+    }
+    if (!marks_.notes().empty()) ++row_;
+    for (const FootnoteMarks::Note& note : marks_.notes()) {
+      writeText(row_++, 0, note.mark + ". " + note.text, {}, Style::TEXT);
     }
   }
 
   Workbook& workbook_;
   lxw_worksheet* const sheet_;
-  const FootnoteMarks* marks_ = nullptr;
+  const FootnoteMarks& marks_;
   internal::TextReader read_;
   std::uint64_t row_ = 0;
   std::size_t labelColumns_ = 0;
@@ -213,19 +208,19 @@ class XlsxDocument : public DocumentWalk {
       : options_(options), workbook_(workbook) {}
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
-  void text(Kind, const OmTextBlock&, int) override {}
-  void object(const Object&, int) override {}
-
   void table(OmPivotTable& table, int) override {
     const std::string number = std::to_string(++tables_);
     const std::string title(titleOf(table));
-    LayerWalk walk(table, options_.tables.of(table));
-    if (walk.count() == 0) Sheet(workbook_, internal::xlsxSheetName(number, title)).write(table);
+    const TableOptions& options = options_.tables.of(table);
+    LayerWalk walk(table, options);
+    if (walk.count() == 0) {
+      const FootnoteMarks marks(table, options.marks);
+      Sheet sheet(workbook_, internal::xlsxSheetName(number, title), marks);
+      sheet.write(table, walk.noBody());
+    }
     for (int layer = 1; walk.next(); ++layer) {
       const std::string which = walk.count() > 1 ? number + '.' + std::to_string(layer) : number;
-      Sheet(workbook_, internal::xlsxSheetName(which, title)).write(walk.view(), walk.marks());
+      Sheet(workbook_, internal::xlsxSheetName(which, title), walk.marks()).write(walk);
     }
   }
 

@@ -6,7 +6,7 @@
 // footnotes in it; everything else is text, and never a formula or a link. Text keeps its line
 // ends; other control characters become U+FFFD, and beyond the 32767 characters that a cell takes
 // it is cut off, with "…" at the end. A number is stored with 16 digits, as spreadsheet programs
-// do. A table without a layer to show has a sheet with its title and caption.
+// do. A table without a layer to show has a sheet that says so.
 //
 // The workbook is written to a file, which is incomplete after an error. Rows are written as they
 // come, in constant memory, unless there are more than 100 sheets: each of them would keep a

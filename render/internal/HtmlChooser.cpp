@@ -1,5 +1,6 @@
 #include "render/internal/HtmlChooser.h"
 
+#include <cstdint>
 #include <deque>
 
 #include "pivot/OmPivotTable.h"
@@ -30,13 +31,11 @@ std::string pathOf(const std::deque<Entry*>& entries) {
 
 }  // namespace
 
-HtmlChooser::HtmlChooser(OmPivotTable& table, bool skipEmptyLayers)
-    : layers_(table, skipEmptyLayers), layerCount_(layers_.NLayers()) {
-  if (!isNeeded()) return;
-  const int stored = table.getLayerLoc();
-  if (stored >= 0 && static_cast<std::uint64_t>(stored) < layerCount_) chosen_ = stored;
-  for (int k = 0; k < layers_.NDimensions(); ++k) dimensions_.emplace_back().name = nameOf(k);
-  while (layers_.NextLayer()) enterLayer();
+HtmlChooser::HtmlChooser(OmDisplayLayerHeading& layers) : layers_(layers) {
+  const int stored = layers.Table().getLayerLoc();
+  if (stored >= 0 && static_cast<std::uint64_t>(stored) < layers.NLayers()) chosen_ = stored;
+  for (int k = 0; k < layers.NDimensions(); ++k) dimensions_.emplace_back().name = nameOf(k);
+  while (layers.NextLayer()) enterLayer();
 }
 
 void HtmlChooser::enterLayer() {
@@ -94,8 +93,7 @@ void HtmlChooser::write(HtmlOut& out, std::string_view name) const {
       "</span></p>\n");
 }
 
-void HtmlChooser::writePositions(HtmlOut& out, int layer) {
-  layers_.SwitchLayer(layer);
+void HtmlChooser::writePositions(HtmlOut& out) const {
   bool isFirst = true;
   for (std::size_t k = 0; k < dimensions_.size(); ++k) {
     if (!dimensions_[k].isChoice()) continue;

@@ -4,14 +4,13 @@
 // Every layer carries the positions of its categories in these lists, which is how the script of
 // the page finds the layer that was chosen. A combination that has no layer is said to be empty.
 //
-// Ownership, lifetime: refers to its table, which must not change. Memory: follows the number of
-// categories, not of layers. Errors: std::bad_alloc.
+// Ownership, lifetime: refers to the layer heading, whose table must not change. Memory: follows the
+// number of categories, not of layers. Errors: std::bad_alloc.
 
 #ifndef OM_RENDER_INTERNAL_HTMLCHOOSER_H_
 #define OM_RENDER_INTERNAL_HTMLCHOOSER_H_
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -25,18 +24,16 @@ namespace om::render::internal {
 
 class HtmlChooser {
  public:
-  // Knows the layers that are not skipped.
-  HtmlChooser(OmPivotTable& table, bool skipEmptyLayers);
+  // REQUIRES: no layer is current yet.
+  explicit HtmlChooser(OmDisplayLayerHeading& layers);
 
-  // False when there is one layer at most.
-  bool isNeeded() const { return layerCount_ > 1; }
   // Whether this is the layer that is shown first: the one that the table remembers.
   bool isChosen(int layer) const { return layer == chosen_; }
 
   // The controls. `name` is that of the table.
   void write(HtmlOut& out, std::string_view name) const;
-  // The value by which a layer is found. REQUIRES: there is such a layer, and isNeeded().
-  void writePositions(HtmlOut& out, int layer);
+  // The value by which the current layer is found.
+  void writePositions(HtmlOut& out) const;
 
  private:
   struct Dimension {
@@ -53,8 +50,7 @@ class HtmlChooser {
   const OmDimensionNode* categoryOf(int dimension) const;
   std::string nameOf(int dimension) const;
 
-  OmDisplayLayerHeading layers_;
-  const std::uint64_t layerCount_;
+  const OmDisplayLayerHeading& layers_;
   std::vector<Dimension> dimensions_;  // the outermost first
   int chosen_ = 0;
 };

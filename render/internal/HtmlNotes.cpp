@@ -47,8 +47,7 @@ void HtmlNotes::writeList() {
     } else {
       out_.markup("<span class=\"mark\">").isolated(note.mark).markup("</span> ");
     }
-    if (note.text != nullptr) out_.isolated(std::string(*note.text));
-    out_.markup("</li>\n");
+    out_.isolated(note.text).markup("</li>\n");
   }
   out_.markup("</ul>\n");
 }

@@ -1,8 +1,8 @@
-// HtmlNotes: the footnotes of one layer of a table, as marks in its texts and as the list under it.
-// Each mark leads to its note, and each note back to the first of its marks.
+// HtmlNotes: the footnotes of one layer of a table, or of a heading, as marks in its texts and as
+// the list under it. Each mark leads to its note, and each note back to the first of its marks.
 //
-// The ids are made from the prefix of the layer, "n" for notes and "m" for marks, and the position
-// of the note in the list: t1l0n2, t1l0m2.
+// The ids are made from the prefix of the layer or heading, "n" for notes and "m" for marks, and
+// the position of the note in the list: t1l0n2, t1l0m2.
 
 #ifndef OM_RENDER_INTERNAL_HTMLNOTES_H_
 #define OM_RENDER_INTERNAL_HTMLNOTES_H_

@@ -14,10 +14,11 @@ namespace om::render::internal {
 namespace {
 
 // The marks of a blank title stay with the name that stands for it.
-void writeTitle(const HtmlLayer& layer, const std::string& name) {
-  layer.out.markup("<span class=\"title\">").isolated(name);
-  layer.notes.writeMarks(&titleOf(layer.view.table()), false);
-  layer.out.markup("</span>");
+void writeTitle(HtmlOut& out, const OmPivotTable& table, const std::string& name,
+                HtmlNotes& notes) {
+  out.markup("<span class=\"title\">").isolated(name);
+  notes.writeMarks(&titleOf(table), false);
+  out.markup("</span>");
 }
 
 void writeLayerLabel(const HtmlLayer& layer, const TableView::LayerLabel& label) {
@@ -37,21 +38,19 @@ void writeLayerLabel(const HtmlLayer& layer, const TableView::LayerLabel& label)
   }
 }
 
-void writeCaption(const HtmlLayer& layer, const std::string& name) {
+// The title and which layer it is.
+void writeOver(const HtmlLayer& layer, const std::string& name) {
   HtmlOut& out = layer.out;
-  out.markup("<caption id=\"").ids(layer.prefix).markup("t\"><span class=\"stay\">");
-  writeTitle(layer, name);
-  if (!layer.view.layerLabels().empty()) {
-    out.markup(" <span class=\"at\">");
-    bool isFirst = true;
-    for (const TableView::LayerLabel& label : layer.view.layerLabels()) {
-      if (!isFirst) out.markup("; ");
-      isFirst = false;
-      writeLayerLabel(layer, label);
-    }
-    out.markup("</span>");
+  writeTitle(out, layer.view.table(), name, layer.notes);
+  if (layer.view.layerLabels().empty()) return;
+  out.markup(" <span class=\"at\">");
+  bool isFirst = true;
+  for (const TableView::LayerLabel& label : layer.view.layerLabels()) {
+    if (!isFirst) out.markup("; ");
+    isFirst = false;
+    writeLayerLabel(layer, label);
   }
-  out.markup("</span></caption>\n");
+  out.markup("</span>");
 }
 
 void writeCell(const HtmlLayer& layer, const OmCellText* cell, std::string_view columnIds,
@@ -102,69 +101,90 @@ void writeBody(const HtmlLayer& layer, const HtmlColumnLabels& columns) {
   out.markup("</tbody>\n");
 }
 
-void writeNoGrid(HtmlOut& out, const std::string& name) {
-  out.markup("<p class=\"title\">").isolated(name).markup("</p>\n");
-  out.markup("<p class=\"empty\">This table is empty.</p>\n");
-}
-
 void writeGrid(const HtmlLayer& layer, const std::string& name) {
   HtmlOut& out = layer.out;
-  if (layer.view.rowCount() == 0 || layer.view.columnCount() == 0) return writeNoGrid(out, name);
   out.markup("<div class=\"scroll\" role=\"group\" tabindex=\"0\" aria-labelledby=\"");
-  out.ids(layer.prefix).markup("t\">\n<table>\n");
-  writeCaption(layer, name);
+  out.ids(layer.prefix).markup("t\">\n<table>\n<caption id=\"").ids(layer.prefix);
+  out.markup("t\"><span class=\"stay\">");
+  writeOver(layer, name);
+  out.markup("</span></caption>\n");
   HtmlColumnLabels columns(layer);
   columns.write();
   writeBody(layer, columns);
   out.markup("</table>\n</div>\n");
 }
 
+std::string prefixOf(std::uint64_t table) { return 't' + std::to_string(table); }
 std::string prefixOf(std::uint64_t table, int layer) {
-  std::string prefix("t");
-  prefix += std::to_string(table);
-  prefix += 'l';
-  prefix += std::to_string(layer);
-  return prefix;
+  return prefixOf(table) + 'l' + std::to_string(layer);
 }
 
-void writeUnder(const HtmlLayer& layer) {
-  const OmCellText* const caption = layer.view.table().Caption();
-  if (caption != nullptr && layer.view.table().showCaption()) {
-    layer.out.markup("<p class=\"caption\">").isolated(std::string(*caption));
-    layer.notes.writeMarks(caption, false);
-    layer.out.markup("</p>\n");
+void writeMessage(HtmlOut& out, std::string_view message) {
+  out.markup("<p class=\"empty\">").text(message).markup("</p>\n");
+}
+
+void writeUnder(HtmlOut& out, const OmPivotTable& table, HtmlNotes& notes) {
+  if (const OmCellText* const caption = captionOf(table)) {
+    out.markup("<p class=\"caption\">").isolated(std::string(*caption));
+    notes.writeMarks(caption, false);
+    out.markup("</p>\n");
   }
-  layer.notes.writeList();
+  notes.writeList();
+}
+
+void writeLayer(const HtmlLayer& layer, const std::string& name, std::string_view noBody) {
+  if (noBody.empty()) {
+    writeGrid(layer, name);
+  } else {
+    layer.out.markup("<div>");
+    writeOver(layer, name);
+    layer.out.markup("</div>\n");
+    writeMessage(layer.out, noBody);
+  }
+  writeUnder(layer.out, layer.view.table(), layer.notes);
+}
+
+void writeWithoutLayer(HtmlOut& out, const OmPivotTable& table, std::uint64_t number,
+                       const std::string& name, std::string_view message, Marks defaultMarks) {
+  const FootnoteMarks marks(table, defaultMarks);
+  const std::string prefix = prefixOf(number);
+  HtmlNotes notes(out, marks, prefix);
+  out.markup("<div>");
+  writeTitle(out, table, name, notes);
+  out.markup("</div>\n");
+  writeMessage(out, message);
+  writeUnder(out, table, notes);
 }
 
 }  // namespace
 
 void writeHtmlTable(HtmlOut& out, OmPivotTable& table, std::uint64_t number,
                     const std::string& name, const TableOptions& options) {
-  std::optional<HtmlChooser> chooser;
-  if (options.layers == Layers::ALL) chooser.emplace(table, options.skipEmptyLayers);
-  const bool isChooserNeeded = chooser && chooser->isNeeded();
-  if (isChooserNeeded) chooser->write(out, name);
-
   LayerWalk walk(table, options);
-  if (walk.count() == 0) writeNoGrid(out, name);
+  if (walk.count() == 0) {
+    writeWithoutLayer(out, table, number, name, walk.noBody(), options.marks);
+  }
+  std::optional<HtmlChooser> chooser;
+  if (walk.count() > 1) {
+    chooser.emplace(walk.layers());
+    chooser->write(out, name);
+  }
   while (!out.failed() && walk.next()) {
     const TableView& view = walk.view();
     const std::string prefix = prefixOf(number, view.layer());
     HtmlNotes notes(out, walk.marks(), prefix);
     const HtmlLayer layer{out, view, notes, prefix};
-    if (isChooserNeeded) {
+    if (chooser) {
       if (chooser->isChosen(view.layer())) {
         out.markup("<section class=\"layer chosen\" data-at=\"");
       } else {
         out.markup("<section class=\"layer\" data-at=\"");
       }
-      chooser->writePositions(out, view.layer());
+      chooser->writePositions(out);
       out.markup("\">\n");
     }
-    writeGrid(layer, name);
-    writeUnder(layer);
-    if (isChooserNeeded) out.markup("</section>\n");
+    writeLayer(layer, name, walk.noBody());
+    if (chooser) out.markup("</section>\n");
   }
 }
 

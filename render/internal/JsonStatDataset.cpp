@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "render/internal/CellText.h"
+#include "render/internal/FootnoteNumbers.h"
 #include "render/internal/JsonStatPlaces.h"
 
 namespace om::render::internal {
@@ -51,13 +52,7 @@ class Dataset {
  private:
   // The table's footnotes of a text, each once.
   const std::vector<std::size_t>& footnotesOf(const OmCellText* text) {
-    footnotes_.clear();
-    if (text == nullptr || table_.Footnotes().empty()) return footnotes_;
-    for (const short number : text->Footnotes()) {
-      const auto which = static_cast<std::size_t>(number);
-      const bool isNew = std::find(footnotes_.begin(), footnotes_.end(), which) == footnotes_.end();
-      if (which < table_.Footnotes().size() && isNew) footnotes_.push_back(which);
-    }
+    readFootnoteNumbers(text, table_.Footnotes().size(), footnotes_);
     return footnotes_;
   }
 
@@ -77,7 +72,7 @@ class Dataset {
   }
 
   void writeNotes() {
-    const OmCellText* const caption = table_.Caption();
+    const OmCellText* const caption = captionOf(table_);
     const OmCellText* const title = &titleOf(table_);
     if (caption == nullptr && footnotesOf(title).empty()) return;
     json_.key("note");

@@ -1,12 +1,13 @@
 #include "render/internal/JsonTable.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "render/internal/CellText.h"
+#include "render/internal/FootnoteNumbers.h"
 #include "render/internal/ShownText.h"
+#include "render/internal/Utf8.h"
 
 namespace om::render::internal {
 
@@ -26,13 +27,15 @@ class JsonTable {
     writeText("title", &titleOf(table_));
     writeText("template", std::as_const(table_).TemplateName());
     writeText("caption", std::as_const(table_).Caption());
+    if (!table_.showCaption()) json_.member("captionHidden", true);
     writeText("corner", std::as_const(table_).CornerText());
     writeDimensions();
     writeAxes();
-    writeJsonFootnotes(std::as_const(table_).Footnotes(), json_);
+    writeJsonFootnotes(std::as_const(table_).Footnotes(), {}, json_);
     json_.key("layers");
     json_.beginArray();
-    for (LayerWalk walk(table_, options_.tables.of(table_)); json_.ok() && walk.next();) writeLayer(walk);
+    for (LayerWalk walk(table_, options_.tables.of(table_)); json_.ok() && walk.next();)
+      writeLayer(walk);
     json_.end();
     json_.end();
   }
@@ -45,14 +48,7 @@ class JsonTable {
 
   // The member "footnotes" of a text that has some.
   void writeNumbers(const OmCellText* text) {
-    if (text == nullptr || std::as_const(table_).Footnotes().empty()) return;
-    numbers_.clear();
-    for (const short number : text->Footnotes()) {
-      const auto which = static_cast<std::size_t>(number);
-      const bool exists = which < std::as_const(table_).Footnotes().size();
-      const bool isNew = std::find(numbers_.begin(), numbers_.end(), which) == numbers_.end();
-      if (exists && isNew) numbers_.push_back(which);
-    }
+    readFootnoteNumbers(text, std::as_const(table_).Footnotes().size(), numbers_);
     if (!numbers_.empty()) json_.member("footnotes", numbers_);
   }
 
@@ -258,8 +254,10 @@ void writeJsonTable(OmPivotTable& table, const JsonOptions& options, JsonEmitter
   JsonTable(table, options, json)();
 }
 
-void writeJsonFootnotes(const OmVector<OmFootnote>& footnotes, JsonEmitter& json) {
-  TextReader read;
+void writeJsonFootnotes(const OmVector<OmFootnote>& footnotes, const std::string& codePage,
+                        JsonEmitter& json) {
+  TextReader reader;
+  const auto read = [&](const OmCellText* text) { return toUtf8(reader(text), codePage); };
   json.key("footnotes");
   json.beginArray();
   for (const OmFootnote& footnote : footnotes) {

@@ -25,32 +25,40 @@ class Recorder : public DocumentWalk {
   const std::vector<std::string>& textLines() const { return textLines_; }
   const std::vector<Object>& objects() const { return objects_; }
   void throwAtObjects() { throws_ = true; }
+  void stopAfter(int parts) { left_ = parts; }
 
  protected:
-  void beginHeading(Kind kind, OmHeading& heading, int depth) override {
-    add(depth, nameOf(kind), heading);
+  bool isDone() const override { return left_ == 0; }
+  void beginHeading(const Heading& heading, int depth) override {
+    add(depth, nameOf(heading.kind), heading.label);
+    EXPECT_EQ(heading.kind == Kind::PROCEDURE, heading.procedure == &heading.part);
+    EXPECT_EQ(heading.kind == Kind::HEADING, heading.procedure == nullptr);
   }
   void endHeading(int depth) override { lines_ += std::to_string(depth) + " end\n"; }
-  void table(OmPivotTable& table, int depth) override { add(depth, nameOf(Kind::TABLE), table); }
-  void text(Kind kind, const OmTextBlock& block, int depth) override {
-    add(depth, nameOf(kind), block);
-    textLines_ = linesOf(block);
+  void table(OmPivotTable& table, int depth) override {
+    add(depth, nameOf(Kind::TABLE), std::string(table.Label()));
+  }
+  void text(const Text& text, int depth) override {
+    add(depth, nameOf(text.kind), text.label);
+    textLines_ = linesOf(text);
   }
   void object(const Object& object, int depth) override {
     if (throws_) throw std::runtime_error("no more");
-    lines_ += std::to_string(depth) + " " + nameOf(object.kind) + ": " + object.label + "\n";
+    add(depth, nameOf(object.kind), object.label);
     objects_.push_back(object);
   }
 
  private:
-  void add(int depth, const char* name, const OmOutputPart& part) {
-    lines_ += std::to_string(depth) + " " + name + ": " + std::string(part.Label()) + "\n";
+  void add(int depth, const char* name, const std::string& label) {
+    lines_ += std::to_string(depth) + " " + name + ": " + label + "\n";
+    --left_;
   }
 
   std::string lines_;
   std::vector<std::string> textLines_;
   std::vector<Object> objects_;
   bool throws_ = false;
+  int left_ = -1;  // how many parts are still to be told; negative: all
 };
 
 std::string linesOf(const OmOutputTree& tree) {
@@ -112,6 +120,14 @@ TEST(DocumentWalk, ARootThatIsNotVisibleHidesTheDocument) {
   EXPECT_EQ(linesOf(tree), "");
 }
 
+TEST(DocumentWalk, ATableThatIsNotToBeShownHidesNothingButItself) {
+  SampleTable table = flatTable();
+  table->Show(false);
+  OmOutputTree tree = treeOf(std::move(table));
+  tree.AppendLast(sampleHeading("below"), 2);
+  EXPECT_EQ(linesOf(tree), "2 Heading: below\n2 end\n");
+}
+
 TEST(DocumentWalk, APlaceWithoutAPartIsPassedOverAndWhatIsBelowItTold) {
   OmOutputTree tree;
   tree.AppendLast(nullptr, 1);
@@ -131,6 +147,32 @@ TEST(DocumentWalk, WhatTheWriterThrowsIsPassedOn) {
   recorder.throwAtObjects();
   EXPECT_THROW(recorder.walk(tree), std::runtime_error);
   EXPECT_TRUE(recorder.lines().ends_with("1 Heading: Objects\n"));
+}
+
+TEST(DocumentWalk, AWriterThatIsDoneIsToldNothingMore) {
+  const OmOutputTree tree = sampleDocument();
+  Recorder recorder;
+  recorder.stopAfter(3);
+  recorder.walk(tree);
+  EXPECT_EQ(recorder.lines(), "1 Page title: \n1 Procedure: Crosstabs\n2 Log: Log\n");
+  Recorder before;
+  before.stopAfter(0);
+  before.walk(tree);
+  EXPECT_EQ(before.lines(), "");
+}
+
+// A writer of images, for one, need not care for the other parts.
+TEST(DocumentWalk, PartsThatAWriterDoesNotAskForArePassedOver) {
+  class Images : public DocumentWalk {
+   public:
+    int count = 0;
+
+   private:
+    void object(const Object& object, int) override { count += object.image.empty() ? 0 : 1; }
+  };
+  Images images;
+  images.walk(sampleDocument());
+  EXPECT_EQ(images.count, 1);
 }
 
 TEST(DocumentWalk, AWalkCanBeRepeated) {
@@ -164,6 +206,18 @@ TEST(DocumentWalk, BytesThatNothingCanReadAreReplaced) {
   EXPECT_EQ(textOf(sampleBlock("Log", {"a\xFFz"}, "UTF-8")),
             (std::vector<std::string>{"a\xEF\xBF\xBDz"}));
   EXPECT_EQ(textOf(samplePageTitle({"a\xFFz"})), (std::vector<std::string>{"a\xEF\xBF\xBDz"}));
+}
+
+TEST(DocumentWalk, LabelsAreConvertedFromTheCodePageOfTheirPart) {
+  OmOutputTree tree;
+  const OmStringCell naive("na\xEFve");
+  tree.AppendLast(std::make_unique<OmProcedure>(naive, "fr", "windows-1252", "fr_FR"), 1);
+  tree.AppendLast(sampleBlock("na\xEFve", {}, "windows-1252"), 2);
+  EXPECT_EQ(linesOf(tree), "1 Procedure: na\xC3\xAFve\n2 Text: na\xC3\xAFve\n1 end\n");
+}
+
+TEST(DocumentWalk, ALabelWithoutACodePageIsMadeUtf8) {
+  EXPECT_EQ(linesOf(treeOf(sampleHeading("a\xFF"))), "1 Heading: a\xEF\xBF\xBD\n1 end\n");
 }
 
 // ---- Objects

@@ -39,7 +39,7 @@ class Marked {
     std::string text;
     for (const FootnoteMarks::Note& note : walk_.marks().notes()) {
       if (!text.empty()) text += ' ';
-      text += note.mark + "=" + (note.text != nullptr ? std::string(*note.text) : "(none)");
+      text += note.mark + "=" + note.text;
     }
     return text;
   }
@@ -284,7 +284,28 @@ TEST(FootnoteMarks, AFootnoteWithoutATextKeepsItsMark) {
   SampleTable table = twoByTwo(0);
   addSampleNote(*table, "");
   table->Footnotes()[0] = OmFootnote(nullptr, nullptr, table->Footnotes()[0].Region());
-  EXPECT_EQ(Marked(withCells(std::move(table), {{0}})).notes(), "a=(none)");
+  EXPECT_EQ(Marked(withCells(std::move(table), {{0}})).notes(), "a=");
+}
+
+// ---- Tables whose caption or layers are not shown
+
+TEST(FootnoteMarks, ACaptionThatIsNotShownUsesNoFootnotes) {
+  SampleTable table = withCells(twoByTwo(3), {{2}, {}});
+  table->Caption(noted("caption", {0, 2}).get());
+  table->showCaption(false);
+  EXPECT_EQ(Marked(std::move(table)).notes(), "a=note2");
+}
+
+TEST(FootnoteMarks, ATableWithoutALayerUsesThoseOfTitleAndCaption) {
+  const SampleTable table = withCells(twoByTwo(4), {{3}});
+  table->SetTableTitle(*noted("title", {2}));
+  table->Caption(noted("caption", {0, 2}).get());
+  const FootnoteMarks marks(*table, Marks::NUMBERS);
+  ASSERT_EQ(marks.notes().size(), 2U);
+  EXPECT_EQ(marks.notes()[0].text, "note2");
+  EXPECT_EQ(marks.notes()[1].text, "note0");
+  EXPECT_EQ(marks.marksOf(table->GetTableTitle()), "1");
+  EXPECT_EQ(marks.marksOf(table->Caption()), "2,1");
 }
 
 }  // namespace

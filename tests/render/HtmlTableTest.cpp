@@ -203,7 +203,8 @@ TEST(HtmlTable, MakesNoHeadingOfABlankLabel) {
 TEST(HtmlTable, WithoutCellsSaysSo) {
   const std::string expected =
       "<main id=\"content\">\n<h1>Output</h1>\n<div class=\"part\">\n"
-      "<p class=\"title\">Nothing was counted</p>\n<p class=\"empty\">This table is empty.</p>\n"
+      "<div><span class=\"title\">Nothing was counted</span></div>\n"
+      "<p class=\"empty\">(no cells)</p>\n"
       "</div>\n</main>";
   EXPECT_EQ(bodyOf(*emptyTable()), expected);
   render::HtmlOptions options;
@@ -219,6 +220,13 @@ TEST(HtmlTable, WithoutCellsShowsItsLabelsWhenNothingIsSkipped) {
   const std::string page = bodyOf(*emptyTable(), options);
   EXPECT_EQ(countOf(page, "<td headers="), 4U);
   EXPECT_EQ(countOf(page, ">Two</th>"), 1U);
+}
+
+TEST(HtmlTable, LeavesOutACaptionThatIsNotShown) {
+  const SampleTable table = footnoteTable();
+  table->showCaption(false);
+  EXPECT_EQ(countOf(bodyOf(*table), "class=\"caption\""), 0U);
+  EXPECT_EQ(countOf(bodyOf(*table), "Measured on land."), 0U);
 }
 
 TEST(HtmlTable, WithoutATitleHasAName) {

@@ -134,6 +134,12 @@ TEST(JsonStatWriter, KeepsWhatCellsSayBeyondTheirNumber) {
   EXPECT_EQ(dataset["extension"], json::parse(R"j({"text": {"1": "2.5 (0.5)"}})j"));
 }
 
+TEST(JsonStatWriter, LeavesOutACaptionThatIsNotShown) {
+  const SampleTable table = footnoteTable();
+  table->showCaption(false);
+  EXPECT_EQ(read(*table)["note"], json::parse(R"(["In grams."])"));
+}
+
 TEST(JsonStatWriter, WritesFootnotesAsNotesAndStatus) {
   const json dataset = read(*footnoteTable());
   EXPECT_EQ(dataset["label"], "Weights of penguins");

@@ -107,6 +107,15 @@ TEST(JsonWriter, WritesTheTextsOfATableWithTheirFootnotes) {
     {"text": "Few birds."}])"));
 }
 
+TEST(JsonWriter, KeepsACaptionThatIsNotShown) {
+  SampleTable table = footnoteTable();
+  table->showCaption(false);
+  const json written = read(std::move(table));
+  EXPECT_EQ(written["caption"], json::parse(R"({"text": "Measured on land.", "footnotes": [0]})"));
+  EXPECT_EQ(written["captionHidden"], true);
+  EXPECT_FALSE(read(footnoteTable()).contains("captionHidden"));
+}
+
 TEST(JsonWriter, WritesDimensionsAsTrees) {
   const json table = read(nestedTable());
   EXPECT_EQ(table["dimensions"][0], json::parse(R"({"label": "Region", "categories": [

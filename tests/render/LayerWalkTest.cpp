@@ -1,4 +1,4 @@
-// The layers of a table that the options ask for, and the title over them.
+// The layers of a table that the options ask for, the title over them and the caption under them.
 
 #include <gtest/gtest.h>
 
@@ -113,6 +113,43 @@ TEST(LayerWalk, TheTitleIsTheTableTitleOrElseTheLabel) {
   EXPECT_EQ(std::string(render::titleOf(*table)), "Label");
   table->SetTableTitle(OmStringCell("Title"));
   EXPECT_EQ(std::string(render::titleOf(*table)), "Title");
+}
+
+TEST(LayerWalk, TheCaptionIsNoneWhereThereIsNoneOrItIsNotShown) {
+  const SampleTable table = sampleTable("Label");
+  EXPECT_EQ(render::captionOf(*table), nullptr);
+  const OmStringCell caption("Caption");
+  table->Caption(&caption);
+  EXPECT_EQ(render::captionOf(*table), table->Caption());
+  table->showCaption(false);
+  EXPECT_EQ(render::captionOf(*table), nullptr);
+}
+
+// ---- What is said in the place of a body
+
+TEST(LayerWalk, ALayerWithABodySaysNothing) {
+  const SampleTable table = flatTable();
+  LayerWalk walk(*table, {});
+  ASSERT_TRUE(walk.next());
+  EXPECT_EQ(walk.noBody(), "");
+}
+
+TEST(LayerWalk, ATableWithoutCellsSaysSoWhateverLayerIsAskedFor) {
+  const SampleTable table = emptyTable();
+  EXPECT_EQ(LayerWalk(*table, {}).noBody(), "(no cells)");
+  EXPECT_EQ(LayerWalk(*table, {.layers = Layers::ONE, .layer = 3}).noBody(), "(no cells)");
+}
+
+TEST(LayerWalk, ALayerWithoutRowsSaysThatThereAreNoCells) {
+  const SampleTable table = emptyTable();
+  LayerWalk walk(*table, {.skipEmptyLayers = false});
+  ASSERT_TRUE(walk.next());
+  EXPECT_EQ(walk.noBody(), "(no cells)");
+}
+
+TEST(LayerWalk, ALayerThatDoesNotExistIsSaidToBeMissing) {
+  const SampleTable table = fourLayers();
+  EXPECT_EQ(LayerWalk(*table, {.layers = Layers::ONE, .layer = 3}).noBody(), "(no such layer)");
 }
 
 }  // namespace

@@ -81,14 +81,18 @@ inline std::unique_ptr<OmProcedure> sampleProcedure(const std::string& label) {
   return std::make_unique<OmProcedure>(OmStringCell(label), "en", "UTF-8", "en_GB");
 }
 
-// Every kind of part, headings nested three deep, and a part that is not visible.
+// Every kind of part, headings nested three deep, one of them with a footnote, and a part that is
+// not visible.
 inline OmOutputTree sampleDocument() {
   OmOutputTree tree;
+  auto regions = sampleHeading("By region");
+  regions->Label().Footnotes().push_back(0);
+  regions->Footnotes().push_back(sampleNote("Regions as they were in 1912."));
   tree.AppendLast(samplePageTitle({"Penguins and passengers", "A sample"}), 1);
   tree.AppendLast(sampleProcedure("Crosstabs"), 1);
   tree.AppendLast(sampleBlock("Log", {"CROSSTABS", "  /TABLES = species BY island."}), 2);
   tree.AppendLast(flatTable(), 2);
-  tree.AppendLast(sampleHeading("By region"), 2);
+  tree.AppendLast(std::move(regions), 2);
   tree.AppendLast(nestedTable(), 3);
   tree.AppendLast(sampleHeading("Details"), 3);
   tree.AppendLast(footnoteTable(), 4);

@@ -55,11 +55,15 @@ inline OmDimension& addSampleDimension(OmPivotTable& table, const std::string& n
 inline OmNumber count(double value) { return OmNumber(value, {.decimals = 0, .grouping = true}); }
 inline OmNumber percent(double value) { return OmNumber(value, {.decimals = 1, .percent = true}); }
 
-inline void addSampleNote(OmPivotTable& table, const std::string& text,
-                          const char* marker = nullptr) {
+inline OmFootnote sampleNote(const std::string& text, const char* marker = nullptr) {
   const OmStringCell noteText(text);
   const OmStringCell markerText(marker != nullptr ? marker : "");
-  table.Footnote(OmFootnote(&noteText, marker != nullptr ? &markerText : nullptr, nullptr), true);
+  return OmFootnote(&noteText, marker != nullptr ? &markerText : nullptr, nullptr);
+}
+
+inline void addSampleNote(OmPivotTable& table, const std::string& text,
+                          const char* marker = nullptr) {
+  table.Footnote(sampleNote(text, marker), true);
 }
 
 // Rows and columns of one dimension each; one cell is missing, one has no value.

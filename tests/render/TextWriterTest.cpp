@@ -452,7 +452,7 @@ TEST(TextWriter, ALayerThatDoesNotExistIsSaidToBeMissing) {
   TextOptions options;
   options.tables.layers = Layers::ONE;
   options.tables.layer = 5;
-  EXPECT_EQ(textOf(*flatTable(), options), "Penguins by species\n(no such layer)\n");
+  EXPECT_EQ(textOf(*wideTable(), options), "Births by month\n(no such layer)\n");
 }
 
 TEST(TextWriter, TitleAndNotesAreWrappedToThePage) {

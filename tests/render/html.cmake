@@ -2,7 +2,6 @@
 
 target_sources(render-tests PRIVATE
   HtmlHostileTest.cpp HtmlLayersTest.cpp HtmlOutTest.cpp HtmlTableTest.cpp HtmlWriterTest.cpp)
-target_compile_definitions(render-tests PRIVATE OM_GOLDEN_DIR="${PROJECT_SOURCE_DIR}/tests/golden/render")
 
 add_executable(render-web-pages ${CMAKE_CURRENT_LIST_DIR}/web/make_pages.cpp)
 target_link_libraries(render-web-pages PRIVATE om-render om-build-options)

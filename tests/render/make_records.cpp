@@ -7,6 +7,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "render/JsonStatWriter.h"
 #include "render/XlsxWriter.h"
@@ -43,6 +44,23 @@ OmOutputTree manyTables() {
   return document;
 }
 
+// A table without cells, whose title and caption have footnotes, and one whose caption is not
+// shown.
+OmOutputTree partlyShown() {
+  SampleTable cellless = om::test::emptyTable();
+  om::test::addSampleNote(*cellless, "In grams.");
+  om::test::addSampleNote(*cellless, "Not used.");
+  om::test::addSampleNote(*cellless, "On land.");
+  cellless->SetTableTitle(*om::test::noted("Weights", {2}));
+  cellless->Caption(om::test::noted("Measured.", {0}).get());
+  SampleTable captioned = om::test::flatTable();
+  captioned->showCaption(false);
+  OmOutputTree document;
+  document.AppendLast(std::move(cellless), 1);
+  document.AppendLast(std::move(captioned), 1);
+  return document;
+}
+
 // Numbers in all formats, texts that a program could take for something else, very long ones.
 OmOutputTree formatsDocument() {
   SampleTable table = om::test::sampleTable("it's [all]: 'in' a/b\\c * ? of a name that is long'");
@@ -75,6 +93,7 @@ void writeXlsx(const std::filesystem::path& folder) {
   om::render::writeXlsx(formatsDocument(), (folder / "formats.xlsx").string());
   om::render::writeXlsx(manyTables(), (folder / "many.xlsx").string());
   om::render::writeXlsx(OmOutputTree(), (folder / "empty.xlsx").string());
+  om::render::writeXlsx(partlyShown(), (folder / "partly.xlsx").string());
 }
 
 }  // namespace

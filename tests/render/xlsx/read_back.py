@@ -100,7 +100,8 @@ class Sample(unittest.TestCase):
             ["Records read", 344]])
 
     def test_a_table_without_cells_has_a_sheet(self):
-        self.assertEqual(values(self.book["5 Nothing was counted"]), [["Nothing was counted"]])
+        self.assertEqual(values(self.book["5 Nothing was counted"]),
+                         [["Nothing was counted"], ["(no cells)"]])
 
     def test_columns_are_as_wide_as_their_texts(self):
         sheet = self.book["1 Penguins by species"]
@@ -167,6 +168,16 @@ class Others(unittest.TestCase):
 
     def test_a_document_without_tables_has_a_sheet(self):
         self.assertEqual(read("empty.xlsx").sheetnames, ["Output"])
+
+    def test_a_table_without_a_layer_has_caption_and_notes(self):
+        self.assertEqual(values(read("partly.xlsx")["1 Weights"]), [
+            ["Weightsa"], ["(no cells)"], [None], ["Measured.b"], [None],
+            ["a. On land."], ["b. In grams."]])
+
+    def test_a_caption_that_is_not_shown_is_left_out(self):
+        sheet = read("partly.xlsx")["2 Penguins by species"]
+        self.assertEqual(sheet.max_row, 6)
+        self.assertEqual(sheet["A6"].value, "Gentoo")
 
     def test_names_of_sheets_are_valid(self):
         for path in FOLDER.glob("*.xlsx"):
