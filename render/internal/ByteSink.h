@@ -19,6 +19,8 @@ namespace om::render::internal {
 
 class ByteSink {
  public:
+  static constexpr std::size_t kMostRoom = 1 << 14;
+
   explicit ByteSink(std::ostream& out) : out_(out), ok_(out.good()) {}
   ByteSink(const ByteSink&) = delete;
   ByteSink& operator=(const ByteSink&) = delete;
@@ -37,6 +39,14 @@ class ByteSink {
     }
     bytes.copy(buffer_.data() + size_, bytes.size());
     size_ += bytes.size();
+  }
+
+  // Room for so many bytes, which the caller writes at once. REQUIRES: count <= kMostRoom.
+  char* room(std::size_t count) {
+    if (buffer_.size() - size_ < count) flush();
+    char* const at = buffer_.data() + size_;
+    size_ += count;
+    return at;
   }
 
   void putNumber(std::integral auto value) { putDigits(value); }
@@ -77,7 +87,7 @@ class ByteSink {
   std::ostream& out_;
   bool ok_;
   std::size_t size_ = 0;
-  std::array<char, 1 << 14> buffer_;
+  std::array<char, kMostRoom> buffer_;
 };
 
 }  // namespace om::render::internal

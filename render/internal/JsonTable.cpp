@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "render/internal/CellText.h"
+#include "render/internal/JsonPlaces.h"
 #include "render/internal/ShownText.h"
 
 namespace om::render::internal {
@@ -32,7 +33,8 @@ class JsonTable {
     writeJsonFootnotes(std::as_const(table_).Footnotes(), json_);
     json_.key("layers");
     json_.beginArray();
-    for (LayerWalk walk(table_, options_.tables.of(table_)); json_.ok() && walk.next();) writeLayer(walk);
+    for (LayerWalk walk(table_, options_.tables.of(table_)); json_.ok() && walk.next();)
+      writeLayer(walk);
     json_.end();
     json_.end();
   }
@@ -208,18 +210,16 @@ class JsonTable {
 
   void writeCells(const TableView& view) {
     std::vector<const OmCellText*> cells;
-    std::vector<int> index;
+    JsonPlaces places(view);
     json_.key("cells");
     json_.beginArray();
     for (std::uint64_t row = 0; row < view.rowCount() && json_.ok(); ++row) {
       view.row(row, cells);
+      places.goToRow(row);
       visitRow(cells, [&](std::size_t column) {
         if (cells[column] == nullptr) return;
-        view.indexOf({row, column}, index);
         json_.beginObject(Layout::LINE);
-        json_.member("row", row);
-        json_.member("column", column);
-        json_.member("index", index);
+        places.write(column, json_.next());
         writeCell(*cells[column]);
         json_.end();
       });
@@ -228,9 +228,15 @@ class JsonTable {
   }
 
   void writeCell(const OmCellText& cell) {
+    const OmNumber* const number = numberOf(&cell);
     json_.key("text");
-    writeString(&cell);
-    if (const OmNumber* const number = numberOf(&cell)) json_.member("number", number->Value());
+    if (number == &cell) {
+      number_.assign(*number);
+      json_.string(number_);
+    } else {
+      writeString(&cell);
+    }
+    if (number != nullptr) json_.member("number", number->Value());
     writeNumbers(&cell);
     if (!cell.hasMeta()) return;
     const OmCellMetaData& meta = cell.getMeta();
@@ -249,6 +255,7 @@ class JsonTable {
   const JsonOptions& options_;
   JsonEmitter& json_;
   TextReader read_;
+  NumberText number_;
   std::vector<std::size_t> numbers_;  // of the footnotes of the last text
 };
 
