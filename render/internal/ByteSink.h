@@ -28,13 +28,13 @@ class ByteSink {
   bool ok() const { return ok_; }
 
   void put(char byte) {
-    if (size_ == buffer_.size()) flush();
+    if (size_ == buffer_.size()) makeRoom();
     buffer_[size_++] = byte;
   }
 
   void put(std::string_view bytes) {
     if (bytes.size() > buffer_.size() - size_) {
-      flush();
+      makeRoom();
       if (bytes.size() > buffer_.size()) return pass(bytes);
     }
     bytes.copy(buffer_.data() + size_, bytes.size());
@@ -43,7 +43,7 @@ class ByteSink {
 
   // Room for so many bytes, which the caller writes at once. REQUIRES: count <= kMostRoom.
   char* room(std::size_t count) {
-    if (buffer_.size() - size_ < count) flush();
+    if (buffer_.size() - size_ < count) makeRoom();
     char* const at = buffer_.data() + size_;
     size_ += count;
     return at;
@@ -72,13 +72,16 @@ class ByteSink {
   static constexpr double kMostWhole = 9007199254740992;  // all whole numbers below are exact
 
   void putDigits(auto value, auto... format) {
-    if (buffer_.size() - size_ < kMostDigits) flush();
+    if (buffer_.size() - size_ < kMostDigits) makeRoom();
     char* const at = buffer_.data() + size_;
     size_ +=
         static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, value, format...).ptr - at);
   }
 
-  void pass(std::string_view bytes) {
+  // Kept out of what is called for every few bytes, which is short enough to be inlined then.
+  [[gnu::cold, gnu::noinline]] void makeRoom() { flush(); }
+
+  [[gnu::cold, gnu::noinline]] void pass(std::string_view bytes) {
     if (!ok_) return;
     out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     ok_ = out_.good();

@@ -26,7 +26,6 @@
 #include <vector>
 
 #include "render/internal/ByteSink.h"
-#include "render/internal/NumberText.h"
 
 namespace om::render::internal {
 
@@ -73,13 +72,6 @@ class JsonEmitter {
   }
 
   void string(std::string_view text);
-  // The string form of a number, which needs no escape.
-  void string(const NumberText& number) {
-    separate();
-    sink_.put('"');
-    sink_.put(number.view());
-    sink_.put('"');
-  }
   void boolean(bool value) {
     separate();
     sink_.put(value ? std::string_view("true") : "false");
