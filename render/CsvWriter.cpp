@@ -187,15 +187,33 @@ class TableRecords {
   }
 
   void writeCell(const OmCellText& cell, const FootnoteMarks& marks) {
-    sink_.put(field_(read_(&cell)));
+    const OmNumber* const number = internal::numberOf(&cell);
+    if (number == &cell) {
+      writeText(*number);
+    } else {
+      sink_.put(field_(read_(&cell)));
+    }
     sink_.put(',');
-    if (const OmNumber* const number = internal::numberOf(&cell)) sink_.putNumber(number->Value());
+    if (number != nullptr) sink_.putNumber(number->Value());
     sink_.put(',');
     if (!marks.notes().empty()) sink_.put(field_(marks.marksOf(&cell)));
     endRecord();
   }
 
-  void endRecord() { sink_.put(options_.crlf ? "\r\n" : "\n"); }
+  // The string form of a finite number is never a formula, and needs quotes for its commas only.
+  void writeText(const OmNumber& number) {
+    number_.assign(number);
+    const std::string_view text = number_.view();
+    const bool quoted = number.DisplayFormat().grouping && text.find(',') != text.npos;
+    if (quoted) sink_.put('"');
+    sink_.put(text);
+    if (quoted) sink_.put('"');
+  }
+
+  void endRecord() {
+    if (options_.crlf) sink_.put('\r');
+    sink_.put('\n');
+  }
 
   OmPivotTable& table_;
   const CsvOptions& options_;
@@ -203,6 +221,7 @@ class TableRecords {
   ByteSink& sink_;
   CsvField field_;
   internal::TextReader read_;
+  internal::NumberText number_;
   std::map<short, CsvDimension> dimensions_;
   std::array<std::vector<const CsvDimension*>, 3> positions_;  // of the axes, outermost first
   std::array<bool, 3> isSure_{};                               // whether subscripts are enough

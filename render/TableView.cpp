@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <limits>
 #include <utility>
 
 #include "pivot/OmPivotTable.h"
@@ -15,13 +14,15 @@ namespace {
 using Entry = OmDisplayLayerHeading::ConstNode;
 using Path = std::vector<const OmDimensionNode*>;
 
-// In the place of a subscript: the column has no category along the dimension.
-constexpr int kNone = std::numeric_limits<int>::min();
-
 std::vector<int> layerIndexOf(const OmDisplayLayerHeading& layers) {
   std::vector<int> index(layers.Table().NDimensions());
   layers.Fill(index);
   return index;
+}
+
+// No cell can be at a negative subscript, and the table refuses to look there.
+bool isNegative(const std::vector<int>& index) {
+  return std::any_of(index.begin(), index.end(), [](int subscript) { return subscript < 0; });
 }
 
 // Splits paths that stand one behind the other, each from its root down; a category that is its own
@@ -92,10 +93,11 @@ void TableView::enterColumns() {
   columnSubscripts_.reserve(columnDimensions_.size() * columnCount());
   std::vector<int> index;
   for (std::uint64_t column = 0; column < columnCount(); ++column) {
-    index.assign(layerIndex_.size(), kNone);
+    index.assign(layerIndex_.size(), -1);  // stays where a column has no category
     columnHeading_.Fill(index, static_cast<int>(column));
     for (const std::size_t dimension : columnDimensions_) {
       columnSubscripts_.push_back(index[dimension]);
+      areColumnsSure_ = areColumnsSure_ && index[dimension] >= 0;
     }
   }
 }
@@ -126,20 +128,24 @@ void TableView::enterCorner() {
 }
 
 void TableView::indexOf(const Place& place, std::vector<int>& index) const {
-  index = layerIndex_;
-  rowHeading_.Fill(index, static_cast<int>(place.row));
-  columnHeading_.Fill(index, static_cast<int>(place.column));
+  goToRow(place.row);
+  index = rowIndex_;
+  if (!areColumnsSure_) return columnHeading_.Fill(index, static_cast<int>(place.column));
+  const int* subscript = columnSubscripts_.data() + place.column * columnDimensions_.size();
+  for (const std::size_t dimension : columnDimensions_) index[dimension] = *subscript++;
+}
+
+void TableView::goToRow(std::uint64_t row) const {
+  if (row_ == row) return;
+  row_.reset();
+  rowIndex_ = layerIndex_;
+  rowHeading_.Fill(rowIndex_, static_cast<int>(row));
+  row_ = row;
 }
 
 const OmCellText* TableView::cell(const Place& place) const {
   indexOf(place, index_);
-  return cellAt(index_);
-}
-
-// No cell can be at a negative subscript, and the table refuses to look there.
-const OmCellText* TableView::cellAt(const std::vector<int>& index) const {
-  const bool isEmpty = std::any_of(index.begin(), index.end(), [](int i) { return i < 0; });
-  return isEmpty ? nullptr : table().Cell(index);
+  return isNegative(index_) ? nullptr : table().Cell(index_);
 }
 
 void TableView::row(std::uint64_t row, std::vector<const OmCellText*>& cells) const {
@@ -148,17 +154,19 @@ void TableView::row(std::uint64_t row, std::vector<const OmCellText*>& cells) co
 
 void TableView::row(std::uint64_t row, std::uint64_t begin, std::uint64_t end,
                     std::vector<const OmCellText*>& cells) const {
-  rowIndex_ = layerIndex_;
-  rowHeading_.Fill(rowIndex_, static_cast<int>(row));
-  index_ = rowIndex_;
   cells.resize(end - begin);
+  if (cells.empty()) return;
+  if (!areColumnsSure_) {
+    for (const OmCellText*& cell : cells) cell = this->cell({row, begin++});
+    return;
+  }
+  indexOf({row, begin}, index_);
+  if (isNegative(index_)) return std::fill(cells.begin(), cells.end(), nullptr);
+  const OmPivotTable& table = this->table();
   const int* subscript = columnSubscripts_.data() + begin * columnDimensions_.size();
   for (const OmCellText*& cell : cells) {
-    for (const std::size_t dimension : columnDimensions_) {
-      index_[dimension] = *subscript != kNone ? *subscript : rowIndex_[dimension];
-      ++subscript;
-    }
-    cell = cellAt(index_);
+    for (const std::size_t dimension : columnDimensions_) index_[dimension] = *subscript++;
+    cell = table.Cell(index_);
   }
 }
 

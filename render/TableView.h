@@ -112,7 +112,7 @@ class OM_RENDER_API TableView {
   void enterColumns();
   void enterLayer();
   void enterCorner();
-  const OmCellText* cellAt(const std::vector<int>& index) const;
+  void goToRow(std::uint64_t row) const;
 
   OmDisplayLayerHeading& layers_;
   const ViewOptions options_;
@@ -124,10 +124,12 @@ class OM_RENDER_API TableView {
   HeadingGrid rowGrid_;
   std::vector<std::size_t> columnDimensions_;
   std::vector<int> columnSubscripts_;  // for each column, one for each of its dimensions
+  bool areColumnsSure_ = true;         // all of these are subscripts that a cell can have
   std::vector<CornerCell> corner_;
   std::vector<LayerLabel> layerLabels_;
   mutable std::vector<int> index_;                  // of the last cell, to have room for it
-  mutable std::vector<int> rowIndex_;               // of the last row, likewise
+  mutable std::vector<int> rowIndex_;               // of the last row
+  mutable std::optional<std::uint64_t> row_;        // its number
   mutable std::unique_ptr<Subscripts> subscripts_;  // made by the first placeOf
 };
 

@@ -8,6 +8,7 @@ target_sources(om-render-objects PRIVATE
   ${PROJECT_SOURCE_DIR}/render/internal/CsvDimension.cpp
   ${PROJECT_SOURCE_DIR}/render/internal/CsvField.cpp
   ${PROJECT_SOURCE_DIR}/render/internal/JsonEmitter.cpp
+  ${PROJECT_SOURCE_DIR}/render/internal/JsonPlaces.cpp
   ${PROJECT_SOURCE_DIR}/render/internal/JsonStatDataset.cpp
   ${PROJECT_SOURCE_DIR}/render/internal/JsonTable.cpp)
 

@@ -19,6 +19,8 @@ namespace om::render::internal {
 
 class ByteSink {
  public:
+  static constexpr std::size_t kMostRoom = 1 << 14;
+
   explicit ByteSink(std::ostream& out) : out_(out), ok_(out.good()) {}
   ByteSink(const ByteSink&) = delete;
   ByteSink& operator=(const ByteSink&) = delete;
@@ -26,17 +28,25 @@ class ByteSink {
   bool ok() const { return ok_; }
 
   void put(char byte) {
-    if (size_ == buffer_.size()) flush();
+    if (size_ == buffer_.size()) makeRoom();
     buffer_[size_++] = byte;
   }
 
   void put(std::string_view bytes) {
     if (bytes.size() > buffer_.size() - size_) {
-      flush();
+      makeRoom();
       if (bytes.size() > buffer_.size()) return pass(bytes);
     }
     bytes.copy(buffer_.data() + size_, bytes.size());
     size_ += bytes.size();
+  }
+
+  // Room for so many bytes, which the caller writes at once. REQUIRES: count <= kMostRoom.
+  char* room(std::size_t count) {
+    if (buffer_.size() - size_ < count) makeRoom();
+    char* const at = buffer_.data() + size_;
+    size_ += count;
+    return at;
   }
 
   void putNumber(std::integral auto value) { putDigits(value); }
@@ -62,13 +72,16 @@ class ByteSink {
   static constexpr double kMostWhole = 9007199254740992;  // all whole numbers below are exact
 
   void putDigits(auto value, auto... format) {
-    if (buffer_.size() - size_ < kMostDigits) flush();
+    if (buffer_.size() - size_ < kMostDigits) makeRoom();
     char* const at = buffer_.data() + size_;
     size_ +=
         static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, value, format...).ptr - at);
   }
 
-  void pass(std::string_view bytes) {
+  // Kept out of what is called for every few bytes, which is short enough to be inlined then.
+  [[gnu::cold, gnu::noinline]] void makeRoom() { flush(); }
+
+  [[gnu::cold, gnu::noinline]] void pass(std::string_view bytes) {
     if (!ok_) return;
     out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     ok_ = out_.good();
@@ -77,7 +90,7 @@ class ByteSink {
   std::ostream& out_;
   bool ok_;
   std::size_t size_ = 0;
-  std::array<char, 1 << 14> buffer_;
+  std::array<char, kMostRoom> buffer_;
 };
 
 }  // namespace om::render::internal

@@ -40,6 +40,9 @@ class CategoryList {
     });
     closeTo(0);
     std::sort(places_.begin(), places_.end());
+    for (std::size_t i = 0; i < places_.size(); ++i) {
+      isNumbered_ = isNumbered_ && static_cast<std::size_t>(places_[i].first) == i;
+    }
   }
 
   std::size_t size() const { return entries_.size(); }
@@ -49,6 +52,8 @@ class CategoryList {
 
   // The categories with a subscript.
   std::span<const Place> find(int subscript) const {
+    const auto number = static_cast<std::size_t>(subscript);
+    if (isNumbered_ && number < places_.size()) return std::span(places_).subspan(number, 1);
     const auto begin = std::lower_bound(places_.begin(), places_.end(), Place(subscript, 0));
     const auto end = std::find_if(begin, places_.end(),
                                   [&](const Place& place) { return place.first != subscript; });
@@ -57,7 +62,8 @@ class CategoryList {
 
  private:
   std::vector<Entry> entries_;
-  std::vector<Place> places_;
+  std::vector<Place> places_;  // by subscript
+  bool isNumbered_ = true;     // each subscript from 0 on has one category, as is normal
 };
 
 }  // namespace om::render::internal

@@ -37,7 +37,6 @@ const OmNumber* anyNumberOf(const OmCellText* text) {
 }  // namespace
 
 const OmNumber* numberOf(const OmCellText* text) {
-  if (text == nullptr || text->Kind() == OmCellText::STRING) return nullptr;
   const OmNumber* const number = anyNumberOf(text);
   return number != nullptr && std::isfinite(number->Value()) ? number : nullptr;
 }

@@ -168,7 +168,7 @@ void HtmlRowLabels::write(std::uint64_t row) {
       write(level, spans[at.next], row);
     }
     if (at.id.empty()) continue;
-    if (!ids_.empty()) ids_ += ' ';
+    ids_ += ' ';
     ids_ += at.id;
   }
 }

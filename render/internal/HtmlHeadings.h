@@ -54,7 +54,7 @@ class HtmlRowLabels {
   // Writes the labels that begin in the row. To be called for each row in turn.
   void write(std::uint64_t row);
 
-  // The ids of the labels beside the row that was written last.
+  // The ids of the labels beside the row that was written last, with a blank in front of each.
   const std::string& ids() const { return ids_; }
   // Whether a label of the outermost of several levels begins in the row to be written next.
   bool beginsGroup(std::uint64_t row) const;

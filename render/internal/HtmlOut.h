@@ -17,6 +17,7 @@
 #include <string_view>
 
 #include "render/internal/ByteSink.h"
+#include "render/internal/NumberText.h"
 
 namespace om::render::internal {
 
@@ -54,6 +55,8 @@ class HtmlOut {
     sink_.putNumber(number);
     return *this;
   }
+  // The string form of a number, which stands for itself.
+  HtmlOut& number(const NumberText& number) { return write(number.view()); }
   HtmlOut& base64(std::string_view bytes);
 
   // Ids made of letters, digits and blanks, which stand for themselves.

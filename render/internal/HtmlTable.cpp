@@ -8,6 +8,7 @@
 #include "render/internal/HtmlChooser.h"
 #include "render/internal/HtmlHeadings.h"
 #include "render/internal/HtmlNotes.h"
+#include "render/internal/ShownText.h"
 
 namespace om::render::internal {
 
@@ -53,37 +54,57 @@ void writeOver(const HtmlLayer& layer, const std::string& name) {
   out.markup("</span>");
 }
 
-void writeCell(const HtmlLayer& layer, const OmCellText* cell, std::string_view columnIds,
-               std::string_view rowIds, TextReader& reader) {
-  HtmlOut& out = layer.out;
-  if (columnIds.empty() && rowIds.empty()) {
+// `rowIds` have a blank in front of each.
+void beginCell(HtmlOut& out, std::string_view columnIds, std::string_view rowIds) {
+  if (!columnIds.empty()) {
+    out.markup("<td headers=\"").ids(columnIds).ids(rowIds).markup("\"");
+  } else if (!rowIds.empty()) {
+    out.markup("<td headers=\"").ids(rowIds.substr(1)).markup("\"");
+  } else {
     out.markup("<td");
-  } else {
-    out.markup("<td headers=\"").ids(columnIds);
-    if (!columnIds.empty() && !rowIds.empty()) out.markup(" ");
-    out.ids(rowIds).markup("\"");
   }
-  if (cell == nullptr) {
-    out.markup("></td>");
-    return;
-  }
-  const std::string_view text = reader(cell);
-  const bool isNumber = isNumeric(*cell, text);
-  if (isNumber) {
-    out.markup(">");
-  } else {
-    out.markup(" class=\"text\">");
-  }
-  out.isolated(text);
-  layer.notes.writeMarks(cell, isNumber);
-  out.markup("</td>");
 }
+
+class CellWriter {
+ public:
+  explicit CellWriter(const HtmlLayer& layer) : out_(layer.out), notes_(layer.notes) {}
+
+  // Behind the start of its tag.
+  void operator()(const OmCellText* cell) {
+    if (cell == nullptr) {
+      out_.markup("></td>");
+      return;
+    }
+    if (cell->Kind() == OmCellText::NUMBER) {
+      number_.assign(*static_cast<const OmNumber*>(cell));
+      out_.markup(">").number(number_);
+      notes_.writeMarks(cell, true);
+    } else {
+      writeText(*cell);
+    }
+    out_.markup("</td>");
+  }
+
+ private:
+  void writeText(const OmCellText& cell) {
+    const std::string_view text = read_(&cell);
+    const bool isNumber = isNumeric(cell, text);
+    out_.markup(isNumber ? Markup(">") : Markup(" class=\"text\">"));
+    out_.isolated(text);
+    notes_.writeMarks(&cell, isNumber);
+  }
+
+  HtmlOut& out_;
+  HtmlNotes& notes_;
+  NumberText number_;
+  TextReader read_;
+};
 
 void writeBody(const HtmlLayer& layer, const HtmlColumnLabels& columns) {
   HtmlOut& out = layer.out;
   HtmlRowLabels rows(layer);
   std::vector<const OmCellText*> cells;
-  TextReader reader;
+  CellWriter writeCell(layer);
   out.markup("<tbody>\n");
   for (std::uint64_t row = 0; row < layer.view.rowCount() && !out.failed(); ++row) {
     if (rows.beginsGroup(row)) {
@@ -93,9 +114,10 @@ void writeBody(const HtmlLayer& layer, const HtmlColumnLabels& columns) {
     }
     rows.write(row);
     layer.view.row(row, cells);
-    for (std::size_t column = 0; column < cells.size(); ++column) {
-      writeCell(layer, cells[column], columns.idsOf(column), rows.ids(), reader);
-    }
+    visitRow(cells, [&](std::size_t column) {
+      beginCell(out, columns.idsOf(column), rows.ids());
+      writeCell(cells[column]);
+    });
     out.markup("</tr>\n");
   }
   out.markup("</tbody>\n");

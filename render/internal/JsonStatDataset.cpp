@@ -23,11 +23,11 @@ class Dataset {
  public:
   Dataset(const OmPivotTable& table, const JsonStatOptions& options, JsonEmitter& json)
       : table_(table), options_(options), json_(json), places_(table) {
-    places_.visitCells([&](std::uint64_t, const OmCellText& text) {
-      numbers_ += numberOf(&text) != nullptr ? 1 : 0;
+    places_.visitStored([&](const OmCellText& text, std::uint64_t places) {
+      const OmNumber* const number = numberOf(&text);
+      if (number != nullptr) numbers_ += places;
       hasStatus_ = hasStatus_ || !footnotesOf(&text).empty();
-      hasText_ = hasText_ || saysMore(text);
-      return true;
+      hasText_ = hasText_ || (number != &text && saysMore(text));
     });
   }
 

@@ -7,9 +7,11 @@
 #define OM_RENDER_INTERNAL_JSONSTATPLACES_H_
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "pivot/OmPivotTable.h"
@@ -53,6 +55,18 @@ class JsonStatPlaces {
     });
   }
 
+  // Calls visit(text, count) for each cell that belongs to categories, with the number of its
+  // places, in the order of the store. Takes less time than going through the places.
+  void visitStored(const auto& visit) const {
+    for (const auto& [index, text] : table_) {
+      std::uint64_t places = count() != 0 ? 1 : 0;
+      for (std::size_t d = 0; d < dimensions_.size(); ++d) {
+        places *= dimensions_[d].find(index[d]).size();
+      }
+      if (places != 0) visit(text, places);
+    }
+  }
+
   // Calls visit(text) for each place, in order, until it answers false; null where there is no
   // cell.
   void visitPlaces(const auto& visit) const {
@@ -60,19 +74,43 @@ class JsonStatPlaces {
     std::vector<std::size_t> at(dimensions_.size());
     std::vector<int> index;
     for (const CategoryList& categories : dimensions_) index.push_back(categories[0].subscript);
+    Ahead ahead;
     for (bool more = true; more;) {
       const bool exists = !index.empty() && *std::min_element(index.begin(), index.end()) >= 0;
-      if (!visit(exists ? table_.Cell(index) : nullptr)) return;
+      ahead.add(exists ? table_.Cell(index) : nullptr);
       more = false;
       for (std::size_t d = at.size(); d-- != 0 && !more;) {
         more = ++at[d] != dimensions_[d].size();
         if (!more) at[d] = 0;
         index[d] = dimensions_[d][at[d]].subscript;
       }
+      if ((ahead.isFull() || !more) && !ahead.visit(visit)) return;
     }
   }
 
  private:
+  // Cells lie far apart in memory when the first dimension is the innermost one of the columns, as
+  // it should be: they are looked for together, which overlaps the waiting, and visited after.
+  class Ahead {
+   public:
+    bool isFull() const { return size_ == cells_.size(); }
+    void add(const OmCellText* cell) {
+#if defined(__GNUC__)
+      __builtin_prefetch(cell);
+#endif
+      cells_[size_++] = cell;
+    }
+    // Visits them until it answers false, and then gives false.
+    bool visit(const auto& visitOne) {
+      const auto end = cells_.begin() + static_cast<std::ptrdiff_t>(std::exchange(size_, 0));
+      return std::all_of(cells_.begin(), end, visitOne);
+    }
+
+   private:
+    std::array<const OmCellText*, 64> cells_;
+    std::size_t size_ = 0;
+  };
+
   // A subscript may be that of several categories of a dimension.
   bool visitCell(const std::vector<int>& index, const OmCellText& text, const auto& visit) const {
     std::vector<std::uint64_t>& places = found_;

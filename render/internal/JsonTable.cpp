@@ -6,6 +6,7 @@
 
 #include "render/internal/CellText.h"
 #include "render/internal/FootnoteNumbers.h"
+#include "render/internal/JsonPlaces.h"
 #include "render/internal/ShownText.h"
 #include "render/internal/Utf8.h"
 
@@ -204,23 +205,44 @@ class JsonTable {
 
   void writeCells(const TableView& view) {
     std::vector<const OmCellText*> cells;
-    std::vector<int> index;
+    JsonPlaces places(view);
     json_.key("cells");
     json_.beginArray();
     for (std::uint64_t row = 0; row < view.rowCount() && json_.ok(); ++row) {
       view.row(row, cells);
+      places.goToRow(row);
       visitRow(cells, [&](std::size_t column) {
-        if (cells[column] == nullptr) return;
-        view.indexOf({row, column}, index);
+        const OmCellText* const cell = cells[column];
+        if (cell == nullptr) return;
+        if (const OmNumber* const number = numberOf(cell); number == cell && isBare(*cell)) {
+          return writeNumber(places, column, *number);
+        }
         json_.beginObject(Layout::LINE);
-        json_.member("row", row);
-        json_.member("column", column);
-        json_.member("index", index);
-        writeCell(*cells[column]);
+        places.write(column, json_.next());
+        writeCell(*cell);
         json_.end();
       });
     }
     json_.end();
+  }
+
+  // Whether a cell has nothing but what it says.
+  bool isBare(const OmCellText& cell) const {
+    return !cell.hasMeta() &&
+           (std::as_const(table_).Footnotes().empty() || cell.Footnotes().empty());
+  }
+
+  // What most cells are, in one go. Needs no escape.
+  void writeNumber(const JsonPlaces& places, std::uint64_t column, const OmNumber& number) {
+    ByteSink& out = json_.next();
+    number_.assign(number);
+    out.put('{');
+    places.write(column, out);
+    out.put(",\"text\":\"");
+    out.put(number_.view());
+    out.put("\",\"number\":");
+    out.putNumber(number.Value());
+    out.put('}');
   }
 
   void writeCell(const OmCellText& cell) {
@@ -245,6 +267,7 @@ class JsonTable {
   const JsonOptions& options_;
   JsonEmitter& json_;
   TextReader read_;
+  NumberText number_;
   std::vector<std::size_t> numbers_;  // of the footnotes of the last text
 };
 

@@ -50,7 +50,8 @@ std::optional<Scaled> scaled(const OmNumber& number) {
   if (!(product < kNoFractions)) return std::nullopt;
   const double rounded = roundedProduct(magnitude, kPowersOfTen[power], product);
   // A value that rounds to zero has no sign.
-  return Scaled{static_cast<std::uint64_t>(rounded), power, number.Value() < 0 && rounded != 0};
+  return Scaled{static_cast<std::uint64_t>(static_cast<std::int64_t>(rounded)), power,
+                number.Value() < 0 && rounded != 0};
 }
 
 }  // namespace
@@ -92,11 +93,14 @@ void NumberText::write(std::uint64_t scaled, std::size_t decimals, bool isNegati
   }
   if (decimals != 0) *--at = '.';
   const char* const wholeEnd = at;
-  for (int digit = 0; digit == 0 || scaled != 0; ++digit) {
-    if (format.grouping && digit != 0 && digit % 3 == 0) *--at = ',';
+  while (format.grouping && scaled >= 1000) {
+    for (int i = 0; i < 3; ++i, scaled /= 10) *--at = static_cast<char>('0' + scaled % 10);
+    *--at = ',';
+  }
+  do {
     *--at = static_cast<char>('0' + scaled % 10);
     scaled /= 10;
-  }
+  } while (scaled != 0);
   if (isNegative) *--at = '-';
   view_ = {at, static_cast<std::size_t>(end - at)};
   whole_ = static_cast<std::size_t>(wholeEnd - at);

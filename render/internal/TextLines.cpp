@@ -37,9 +37,7 @@ void TextLines::text(const TextLine* line, std::size_t width, Align align) {
   const std::size_t spare = width > used ? width - used : 0;
   const std::size_t before = align == Align::LEFT ? 0 : align == Align::RIGHT ? spare : spare / 2;
   if (line == nullptr) return blanks(width + 2);
-  blanks(1 + before + line->indent);
-  out_.put(line->text);
-  blanks(spare - before + 1);
+  among(1 + before + line->indent, line->text, spare - before + 1);
 }
 
 }  // namespace om::render::internal

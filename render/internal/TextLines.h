@@ -3,7 +3,9 @@
 #ifndef OM_RENDER_INTERNAL_TEXTLINES_H_
 #define OM_RENDER_INTERNAL_TEXTLINES_H_
 
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -46,12 +48,27 @@ class TextLines {
   void verticalLine() { out_.put(vertical()); }
   void endLine() { out_.put('\n'); }
   void blanks(std::size_t count) {
-    static constexpr std::string_view kBlanks = "                                ";
-    for (; count > kBlanks.size(); count -= kBlanks.size()) out_.put(kBlanks);
-    out_.put(kBlanks.substr(0, count));
+    for (std::size_t piece = 0; count != 0; count -= piece) {
+      piece = std::min(count, ByteSink::kMostRoom);
+      std::memset(out_.room(piece), ' ', piece);
+    }
+  }
+  // A text with blanks before and behind it.
+  void among(std::size_t before, std::string_view text, std::size_t behind) {
+    const std::size_t size = before + text.size() + behind;
+    if (size > kMostAmong) {
+      blanks(before);
+      out_.put(text);
+      return blanks(behind);
+    }
+    char* const at = out_.room(size);
+    std::memset(at, ' ', size);
+    text.copy(at + before, text.size());
   }
 
  private:
+  static constexpr std::size_t kMostAmong = 128;
+
   ByteSink& out_;
   const bool ascii_;
 };

@@ -144,10 +144,11 @@ void TextTable::drawCell(const OmCellText* cell, const BodyColumn& column) {
   const std::size_t width = shown.width + shown.marksWidth;
   const std::size_t behind =
       column.isAligned ? column.rest - (width - shown.whole) : std::size_t{0};
-  lines_.blanks(1 + column.width - width - behind);
+  const std::size_t before = 1 + column.width - width - behind;
+  if (shown.marks.empty()) return lines_.among(before, shown.text, behind + 1);
+  lines_.blanks(before);
   out_.put(shown.text);
-  out_.put(shown.marks);
-  lines_.blanks(behind + 1);
+  lines_.among(0, shown.marks, behind + 1);
 }
 
 // Gives the number of lines that the row needs for them.

@@ -149,6 +149,20 @@ TEST(TableView, ACategoryThatNoCellCanBelongToIsEmpty) {
   EXPECT_EQ(cells, std::vector<const OmCellText*>(2));
 }
 
+TEST(TableView, ARowIsEmptyInAColumnThatNoCellCanBelongTo) {
+  const Viewed view(tableOf({.dimensions = {"R(b=0)", "C(x=2147483648 y=0)"},
+                             .rows = {0},
+                             .columns = {1},
+                             .cells = {{0, 0}}}),
+                    kEverything);
+  std::vector<const OmCellText*> cells;
+  view->row(0, cells);
+  ASSERT_EQ(cells.size(), 2U);
+  EXPECT_EQ(cells[0], nullptr);
+  EXPECT_EQ(cells[1], view->cell({0, 1}));
+  EXPECT_NE(cells[1], nullptr);
+}
+
 TEST(TableView, ATableWithoutColumnDimensionsHasOneColumn) {
   const Viewed view(tableOf({.dimensions = {"R(a b)"}, .rows = {0}, .cells = {{0}, {1}}}));
   EXPECT_EQ(view->columnCount(), 1U);
