@@ -108,8 +108,14 @@ class Outline : public PartWalk {
 
   void table(OmPivotTable& table, int) override { item(nameOf(table)); }
 
+  // A page title is called by its first line.
   void text(const Text& text, int) override {
-    item(nameOf(text.kind, text.kind == Kind::PAGE_TITLE ? std::string() : text.label));
+    std::string name = text.label;
+    if (text.kind == Kind::PAGE_TITLE) {
+      const std::vector<std::string> lines = linesOf(text);
+      name = lines.empty() ? std::string() : lines.front();
+    }
+    item(nameOf(text.kind, name));
   }
 
   void object(const Object& object, int) override { item(nameOf(object.kind, object.label)); }

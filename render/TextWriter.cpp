@@ -112,8 +112,8 @@ class TableWriter {
   }
 
   void writeUnder(TableReader& reader, const OmPivotTable& table, const FootnoteMarks& marks) {
-    writeNotes(page_, marks);
     if (const OmCellText* const caption = captionOf(table)) writeText(reader, *caption);
+    writeNotes(page_, marks);
   }
 
   void writeText(TableReader& reader, const OmCellText& text) {

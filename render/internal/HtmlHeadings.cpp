@@ -64,7 +64,7 @@ HtmlColumnLabels::HtmlColumnLabels(const HtmlLayer& layer) : layer_(layer), ends
       std::size_t& at = next[level];
       while (at != spans.size() && spans[at].end <= column) ++at;
       if (at == spans.size() || spans[at].begin > column) continue;
-      if (isBlank(reader(spans[at].text()))) continue;
+      if (layer.isBare(spans[at].text(), reader(spans[at].text()))) continue;
       const std::uint64_t begin = column - (column - spans[at].begin) % kMostColumns;
       appendId(ids, layer.prefix, 'c', level, begin);
     }
@@ -96,7 +96,7 @@ void HtmlColumnLabels::writeCorner(std::size_t rows) {
   TextReader reader;
   for (const TableView::CornerCell& cell : layer_.view.corner()) {
     const std::string_view text = reader(cell.text);
-    if (isBlank(text)) {
+    if (layer_.isBare(cell.text, text)) {
       out.markup("<td");
       writeRowClass(out, cell.begin);
       writeSpan(out, cell.end - cell.begin, rows);
@@ -127,7 +127,7 @@ void HtmlColumnLabels::writeLevel(std::size_t level) {
     const bool isOver = level + span.levels < layer_.view.columns().levels();
     for (std::uint64_t begin = span.begin; begin < span.end; begin += kMostColumns) {
       const std::uint64_t columns = std::min(span.end - begin, kMostColumns);
-      if (isBlank(text)) {
+      if (layer_.isBare(span.text(), text)) {
         out.markup("<td");
         writeSpan(out, columns, span.levels);
         out.markup("></td>");
@@ -143,7 +143,7 @@ void HtmlColumnLabels::writeLevel(std::size_t level) {
       }
       writeSpan(out, columns, span.levels);
       out.markup(isOver ? Markup("><span>") : Markup(">")).isolated(text);
-      layer_.notes.writeMarks(span.text(), !isOver && !isText_[begin]);
+      layer_.notes.writeMarks(span.text(), !isOver && !isText_[begin] && !isBlank(text));
       out.markup(isOver ? Markup("</span></th>") : Markup("</th>"));
     }
   }
@@ -178,7 +178,7 @@ void HtmlRowLabels::write(std::size_t level, const Span& span, std::uint64_t row
   Level& at = levels_[level];
   at.end = std::min(span.end, row + kMostRows);
   const std::string_view text = reader_(span.text());
-  if (isBlank(text)) {
+  if (layer_.isBare(span.text(), text)) {
     out.markup("<td");
     writeRowClass(out, level);
     writeSpan(out, span.levels, at.end - row);

@@ -23,6 +23,11 @@ struct HtmlLayer {
   const TableView& view;
   HtmlNotes& notes;
   const std::string& prefix;  // of the ids
+
+  // Whether a label shows nothing, so that its cell is no heading. `shown` is its text as shown.
+  bool isBare(const OmCellText* label, std::string_view shown) const {
+    return isBlank(shown) && !notes.hasMarks(label);
+  }
 };
 
 // The thead, which holds the corner, too.

@@ -27,6 +27,10 @@ class HtmlNotes {
     if (!isMarked_.empty()) writeMarksOf(text, hanging);
   }
 
+  bool hasMarks(const OmCellText* text) const {
+    return !isMarked_.empty() && !marks_.notesOf(text).empty();
+  }
+
   void writeList();
 
  private:

@@ -96,9 +96,9 @@ h5, h6 { font-size: 1rem; margin: 2rem 0 .75rem; }
 .words p { margin: 0 0 .75rem; }
 .page-title p { font-size: 1.25rem; font-weight: 600; margin: 0; line-height: 1.35; }
 .page-title p + p { font-size: 1rem; font-weight: 400; color: var(--soft); margin-top: .25rem; }
-pre.scroll { margin: 0; padding: .75rem 1rem; min-width: 0; max-height: 60vh; background: var(--side);
+pre.scroll { white-space: pre-wrap; margin: 0; padding: .75rem 1rem; min-width: 0; max-height: 60vh; background: var(--side);
   border: 1px solid var(--line); border-radius: 6px; font: .8125rem/1.55 var(--mono); tab-size: 8;
-  unicode-bidi: plaintext; overflow-wrap: normal; }
+  unicode-bidi: plaintext; overflow-wrap: anywhere; }
 .object p { display: flex; flex-wrap: wrap; gap: .25rem .75rem; align-items: baseline; margin: 0;
   padding: .625rem 1rem; border: 1px solid var(--line); border-radius: 6px; width: fit-content;
   max-width: 100%; }
@@ -173,6 +173,7 @@ tbody tr:hover > :not([rowspan]) { background: var(--tint); }
 
 @media screen and (max-width: 60rem) {
   th, td, [class="row"] { padding-left: .5rem; padding-right: .5rem; }
+  .row { max-width: min(24rem, 36vw); }
 }
 
 /* Footnotes */
@@ -198,7 +199,6 @@ section:target, .part:target { background: none; }
   .scroll, pre.scroll { max-height: none; overflow: visible; }
   div.broad, div.tall { border: 0; }
   .stay, thead, .over > span, tbody th > span, .stuck .row { position: static; }
-  pre { white-space: pre-wrap; }
   tr, figure, .object { break-inside: avoid; }
   h2, h3, h4, h5, h6, caption { break-after: avoid; }
   a { color: inherit; text-decoration: none; }

@@ -48,13 +48,10 @@ class Names : public om::render::DocumentWalk {
   std::vector<std::string> names;
 
  private:
-  void beginHeading(Kind, OmHeading&, int) override {}
-  void endHeading(int) override {}
   void table(OmPivotTable& table, int) override {
     names.push_back(std::string(om::render::titleOf(table)));
   }
-  void text(Kind kind, const OmTextBlock&, int) override { names.push_back(nameOf(kind)); }
-  void object(const Object&, int) override {}
+  void text(const Text& text, int) override { names.push_back(nameOf(text.kind)); }
 };
 
 TEST(RenderBoundary, AWalkOfTheProgramIsToldOfTheParts) {

@@ -200,6 +200,28 @@ TEST(HtmlTable, MakesNoHeadingOfABlankLabel) {
             "<td headers=\"t1l0r0p1\">2</td></tr>\n</tbody>");
 }
 
+TEST(HtmlTable, MakesAHeadingOfABlankLabelWithAFootnote) {
+  const SampleTable table = sampleTable("Title");
+  addSampleNote(*table, "Missing.");
+  for (const char* const name : {"Row", "Column"}) {
+    OmDimension& dimension = table->AddDimension(OmStringCell(name));
+    dimension.AddNewChild(dimension.Root(), *noted("", {0}), 0, false);
+    dimension.Root()->Hide(true);
+  }
+  table->Rows().push_back(0);
+  table->Columns().push_back(1);
+  table->Cell({0, 0}, count(1));
+  const std::string page = bodyOf(*table);
+  EXPECT_EQ(between(page, "<thead>", "</thead>"),
+            "<thead>\n<tr><td class=\"row\"></td><th scope=\"col\" id=\"t1l0c0p0\"><sup>"
+            "<a id=\"t1l0m0\" href=\"#t1l0n0\" role=\"doc-noteref\" aria-label=\"Footnote a\">a"
+            "</a></sup></th></tr>\n</thead>");
+  EXPECT_EQ(between(page, "<tbody>", "</tbody>"),
+            "<tbody>\n<tr><th scope=\"row\" id=\"t1l0r0p0\" class=\"row\"><sup>"
+            "<a href=\"#t1l0n0\" role=\"doc-noteref\" aria-label=\"Footnote a\">a</a></sup></th>"
+            "<td headers=\"t1l0c0p0 t1l0r0p0\">1</td></tr>\n</tbody>");
+}
+
 TEST(HtmlTable, WithoutCellsSaysSo) {
   const std::string expected =
       "<main id=\"content\">\n<h1>Output</h1>\n<div class=\"part\">\n"

@@ -45,15 +45,15 @@ std::string partOf(OmPivotTable& table, const render::HtmlOptions& options = {})
   return between(htmlOf(table, options), "<div class=\"part\">\n", "</main>");
 }
 
-TEST(NoLayer, ATextShowsTitleMessageNotesAndCaption) {
+TEST(NoLayer, ATextShowsTitleMessageCaptionAndNotes) {
   EXPECT_EQ(textOf(*notedTable(false)),
-            "Weights of penguins[a]\n(no cells)\n[a] In grams.\n[b] On land.\nMeasured.[b]\n");
+            "Weights of penguins[a]\n(no cells)\nMeasured.[b]\n[a] In grams.\n[b] On land.\n");
 }
 
 TEST(NoLayer, ATextSaysThatThereIsNoSuchLayer) {
   EXPECT_EQ(textOf(*notedTable(true), atLayer<render::TextOptions>(1)),
-            "Weights of penguins[a]\n(no such layer)\n[a] In grams.\n[b] On land.\n"
-            "Measured.[b]\n");
+            "Weights of penguins[a]\n(no such layer)\nMeasured.[b]\n[a] In grams.\n"
+            "[b] On land.\n");
 }
 
 std::string markOf(int note, const std::string& mark) {

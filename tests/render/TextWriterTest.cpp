@@ -426,12 +426,12 @@ TEST(TextWriter, TitleLabelsAndCaptionHaveTheirMarks) {
             "| Adelie     | 3700.7[*,b] |   -12.25   |\n"
             "| Gentoo[d]  | 5076        |  1375.3[*] |\n"
             "+------------+-------------+------------+\n"
+            "Measured on land.[c]\n"
             "[a] In grams.\n"
             "[c] Weighted by island.\n"
             "[*] Significant at 5 per cent.\n"
             "[b] Estimated.\n"
-            "[d] Few birds.\n"
-            "Measured on land.[c]\n");
+            "[d] Few birds.\n");
 }
 
 TEST(TextWriter, ACaptionThatIsNotToBeShownIsNot) {

@@ -62,6 +62,18 @@ void flush(std::ostream& out) {
                     (errno != 0 ? std::strerror(errno) : "unknown reason"));
 }
 
+// What is read is not replaced by what is written.
+void checkOutput(const Options& options, const std::vector<JobTable>& tables) {
+  const auto check = [&](const std::string& input) {
+    std::error_code error;
+    if (std::filesystem::equivalent(options.output, input, error) && !error) {
+      throw usageFailure("--output: " + printable(options.output) + " is read by this command");
+    }
+  };
+  check(options.jobFile);
+  for (const JobTable& table : tables) check(table.request.data);
+}
+
 // What is wrong with the request for a table of a job is said with the table's place.
 template <class Work>
 void forTable(const std::string& jobFile, std::size_t number, const Work& work) {
@@ -84,6 +96,7 @@ ExitCode tabulate(const std::vector<std::string>& arguments, const Surroundings&
   const std::vector<JobTable> tables =
       options.jobFile.empty() ? std::vector<JobTable>{{options.request, options.rendering}}
                               : readJob(options.jobFile);
+  checkOutput(options, tables);
   // Before the work, so that it is not done in vain.
   std::optional<OutputFile> file;
   if (!options.output.empty()) file.emplace(options.output);

@@ -30,6 +30,7 @@ std::unique_ptr<OmPivotTable> summaryOf(const TableRequest& request, const Count
   if (!request.weight.empty()) lines.emplace_back("Weight missing", counted.missingWeight);
 
   OmDimension& statistics = table->AddDimension(OmStringCell("Statistics"));
+  statistics.Root()->Hide(true);
   statistics.AddNewChild(statistics.Root(), OmStringCell("N"), 0, false);
   statistics.AddNewChild(statistics.Root(), OmStringCell("Percent"), 1, false);
   OmDimension& records = table->AddDimension(OmStringCell("Records"));

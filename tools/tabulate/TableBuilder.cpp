@@ -155,6 +155,8 @@ void TableBuilder::addTitleNotes(OmStringCell& title) {
 void TableBuilder::addStatistics() {
   OmDimension& dimension = table_->AddDimension(OmStringCell(kStatistics));
   OmDimension::Node group = dimension.Root();
+  // Over "Count" and "Row %" the name would only take room; a layer is chosen by it.
+  group->Hide(request_.statisticsOn != Axis::LAYERS);
   std::size_t measure = StatisticEntry::kNoMeasure;
   for (std::size_t i = 0; i < statistics_.size(); ++i) {
     if (statistics_[i].measure != measure) {

@@ -277,6 +277,7 @@ void theOutput(Errors& errors) {
   errors.refusedAlone({"d.csv", "--rows", "a", "-o", "folder"});
   errors.refusedAlone({"d.csv", "--rows", "a", "-o", "d.csv/out.txt"});
   errors.refusedAlone({"d.csv", "--rows", "a", "-o", "/dev/full"});
+  errors.refusedAlone({"d.csv", "--rows", "a", "-o", "./d.csv"});
 }
 
 TEST(ProgramErrors, AreOneLineEachAndTouchNoFile) {
