@@ -1,5 +1,9 @@
 #include "render/DocumentWalk.h"
 
+#include <array>
+#include <cstddef>
+#include <cstdio>
+
 #include "output/OmAnswerTree.h"
 #include "output/OmChart.h"
 #include "output/OmHeading.h"
@@ -76,6 +80,20 @@ std::vector<std::string> DocumentWalk::linesOf(const Text& text) {
     lines.push_back(internal::toUtf8(line, text.part.LocaleCodePage()));
   }
   return lines;
+}
+
+std::string DocumentWalk::sizeOf(const Object& object) {
+  if (object.bytes < 1024) {
+    return std::to_string(object.bytes) + (object.bytes == 1 ? " byte" : " bytes");
+  }
+  static constexpr std::array<const char*, 6> kUnits = {"KiB", "MiB", "GiB", "TiB", "PiB", "EiB"};
+  std::size_t unit = 0;
+  auto size = static_cast<double>(object.bytes) / 1024;
+  // What would be shown as 1024.0 is one of the next unit.
+  for (; size >= 1023.95 && unit + 1 < kUnits.size(); ++unit) size /= 1024;
+  std::array<char, 32> text;
+  std::snprintf(text.data(), text.size(), "%.1f %s", size, kUnits[unit]);
+  return text.data();
 }
 
 void DocumentWalk::beginHeading(const Heading&, int) {}

@@ -74,6 +74,7 @@ class OM_RENDER_API DocumentWalk : private OmOutputWalker {
     std::string_view image;
     std::string_view imageType;
   };
+  static std::string sizeOf(const Object& object);  // as in "312 bytes" or "4.5 MiB"
 
   // These tell of the parts, and do nothing unless they are overridden. `depth` is 1 below the
   // root. A heading has an end, behind what is below it.

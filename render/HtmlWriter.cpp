@@ -213,29 +213,13 @@ class Content : public PartWalk {
     }
     out().markup("<div class=\"part object\" id=\"p").number(part).markup("\">\n<p>");
     writeObjectName(object, name);
-    out().markup(" <span class=\"size\">");
-    writeSize(object.bytes);
-    out().markup("</span></p>\n</div>\n");
+    out().markup(" <span class=\"size\">").text(sizeOf(object)).markup("</span></p>\n</div>\n");
   }
 
   void writeObjectName(const Object& object, const std::string& name) {
     const std::string_view kind = DocumentWalk::nameOf(object.kind);
     if (name != kind) out().markup("<span class=\"kind\">").text(kind).markup("</span> ");
     out().markup("<span>").isolated(name).markup("</span>");
-  }
-
-  // With one decimal, cut off, from 1000 bytes on.
-  void writeSize(std::uint64_t bytes) {
-    if (bytes < 1000) {
-      out().number(bytes).markup(bytes == 1 ? Markup(" byte") : Markup(" bytes"));
-      return;
-    }
-    static constexpr std::string_view kPrefixes = "kMGTPE";
-    std::size_t prefix = 0;
-    std::uint64_t unit = 1000;
-    for (; bytes / unit >= 1000; unit *= 1000) ++prefix;
-    out().number(bytes / unit).markup(".").number(bytes % unit / (unit / 10)).markup(" ");
-    out().text(kPrefixes.substr(prefix, 1)).markup("B");
   }
 
   void writeLabel(const Text& text) {

@@ -127,6 +127,12 @@ void TableView::enterCorner() {
   }
 }
 
+std::size_t TableView::headRows() const {
+  const bool hasCorner = std::any_of(corner_.begin(), corner_.end(),
+                                     [](const CornerCell& cell) { return cell.text != nullptr; });
+  return std::max<std::size_t>(columnGrid_.levels(), hasCorner ? 1 : 0);
+}
+
 void TableView::indexOf(const Place& place, std::vector<int>& index) const {
   goToRow(place.row);
   index = rowIndex_;

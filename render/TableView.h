@@ -82,6 +82,9 @@ class OM_RENDER_API TableView {
   const HeadingGrid& columns() const { return columnGrid_; }
   // Cells side by side that cover all label columns; none when there are no label columns.
   const std::vector<CornerCell>& corner() const { return corner_; }
+  // How many rows stand over the body: the label rows, or one for a corner with a text where there
+  // are none.
+  std::size_t headRows() const;
 
   // The index of the cell at a place; it has one subscript for each dimension. Allocates nothing
   // when `index` has its size. REQUIRES: the place is in the body.

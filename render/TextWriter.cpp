@@ -1,8 +1,5 @@
 #include "render/TextWriter.h"
 
-#include <array>
-#include <cstdint>
-#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -23,19 +20,6 @@ using internal::TableReader;
 using internal::TextPage;
 
 constexpr std::size_t kTab = 8;
-
-// As in "312 bytes" or "4.5 MiB".
-std::string textOfSize(std::uint64_t bytes) {
-  if (bytes < 1024) return std::to_string(bytes) + (bytes == 1 ? " byte" : " bytes");
-  static constexpr std::array<const char*, 6> kUnits = {"KiB", "MiB", "GiB", "TiB", "PiB", "EiB"};
-  std::size_t unit = 0;
-  auto size = static_cast<double>(bytes) / 1024;
-  // What would be shown as 1024.0 is one of the next unit.
-  for (; size >= 1023.95 && unit + 1 < kUnits.size(); ++unit) size /= 1024;
-  std::array<char, 32> text;
-  std::snprintf(text.data(), text.size(), "%.1f %s", size, kUnits[unit]);
-  return text.data();
-}
 
 // Blanks up to the next multiple of kTab in the place of each tab.
 std::string expandTabs(std::string_view text) {
@@ -200,7 +184,7 @@ class TextWriter : public DocumentWalk {
     if (!object.label.empty()) line.append(": ").append(internal::plainLine(object.label, room));
     line += "] ";
     if (!object.imageType.empty()) line.append(object.imageType).append(", ");
-    line += textOfSize(object.bytes);
+    line += sizeOf(object);
     page_.beginBlock();
     page_.paragraph(line);
   }

@@ -122,12 +122,9 @@ class Sheet {
     widths_[column] = std::max(widths_[column], std::min(wanted, kMostWidth));
   }
 
-  // The corner has a row of its own where there are no labels over the columns.
   void writeHeading(const TableView& view) {
     const HeadingGrid& columns = view.columns();
-    const bool hasCorner = std::any_of(view.corner().begin(), view.corner().end(),
-                                       [](const auto& cell) { return cell.text != nullptr; });
-    const std::uint64_t height = std::max<std::uint64_t>(columns.levels(), hasCorner ? 1 : 0);
+    const std::uint64_t height = view.headRows();
     for (const TableView::CornerCell& cell : view.corner()) {
       if (height == 0) break;
       if (cell.end - cell.begin == 1) widen(cell.begin, read_(cell.text));

@@ -70,7 +70,7 @@ std::string_view CsvField::operator()(std::string_view text) {
 
   std::string valid = validUtf8(text);
   for (std::size_t at = 0; (at = valid.find('\0', at)) != valid.npos;) {
-    valid.replace(at, 1, "\xEF\xBF\xBD");
+    valid.replace(at, 1, kReplacement);
   }
   const bool quoted = needsQuotes(valid);
   field_.clear();

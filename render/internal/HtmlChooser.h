@@ -4,8 +4,8 @@
 // Every layer carries the positions of its categories in these lists, which is how the script of
 // the page finds the layer that was chosen. A combination that has no layer is said to be empty.
 //
-// Ownership, lifetime: refers to the layer heading, whose table must not change. Memory: follows the
-// number of categories, not of layers. Errors: std::bad_alloc.
+// Ownership, lifetime: refers to the layer heading, whose table must not change. Memory: follows
+// the number of categories, not of layers. Errors: std::bad_alloc.
 
 #ifndef OM_RENDER_INTERNAL_HTMLCHOOSER_H_
 #define OM_RENDER_INTERNAL_HTMLCHOOSER_H_

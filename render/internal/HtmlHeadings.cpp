@@ -74,17 +74,13 @@ HtmlColumnLabels::HtmlColumnLabels(const HtmlLayer& layer) : layer_(layer), ends
 }
 
 void HtmlColumnLabels::write() {
-  const TableView& view = layer_.view;
-  const auto& corner = view.corner();
-  const bool hasCorner =
-      std::any_of(corner.begin(), corner.end(), [](const auto& cell) { return cell.text; });
-  const std::size_t levels = view.columns().levels();
-  if (levels == 0 && !hasCorner) return;
+  const std::size_t rows = layer_.view.headRows();
+  if (rows == 0) return;
   layer_.out.markup("<thead>\n");
-  for (std::size_t level = 0; level < std::max<std::size_t>(levels, 1); ++level) {
+  for (std::size_t row = 0; row < rows; ++row) {
     layer_.out.markup("<tr>");
-    if (level == 0) writeCorner(std::max<std::size_t>(levels, 1));
-    if (level < levels) writeLevel(level);
+    if (row == 0) writeCorner(rows);
+    if (row < layer_.view.columns().levels()) writeLevel(row);
     layer_.out.markup("</tr>\n");
   }
   layer_.out.markup("</thead>\n");

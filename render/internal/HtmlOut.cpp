@@ -9,8 +9,6 @@ namespace om::render::internal {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-
 // Bytes that stand for themselves wherever text may be.
 constexpr std::array<bool, 256> kIsPlain = [] {
   std::array<bool, 256> plain{};

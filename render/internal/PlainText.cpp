@@ -10,8 +10,6 @@ namespace om::render::internal {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-
 // Next line, line separator, paragraph separator.
 bool isLongLineBreak(std::string_view sequence) {
   return sequence == "\xC2\x85" || sequence == "\xE2\x80\xA8" || sequence == "\xE2\x80\xA9";

@@ -11,8 +11,6 @@ namespace {
 
 using Span = HeadingGrid::Span;
 
-bool hasText(const TableView::CornerCell& cell) { return cell.text != nullptr; }
-
 }  // namespace
 
 TextTable::TextTable(const TableView& view, const FootnoteMarks& marks, const Page& page,
@@ -50,17 +48,15 @@ void TextTable::draw(std::size_t panel) {
 // labels.
 void TextTable::drawHead(const Panel& panel) {
   const HeadingGrid& columns = view_.columns();
-  const auto& corner = view_.corner();
   const std::size_t labelColumns = layout_.labelColumns.size();
-  const bool hasCorner = std::any_of(corner.begin(), corner.end(), hasText);
-  const std::size_t bands = std::max<std::size_t>(columns.levels(), hasCorner ? 1 : 0);
+  const std::size_t bands = view_.headRows();
   if (bands == 0) {
     RowLabels labels(view_, reader_, layout_.labelColumns);
     labels.next();
     return lines_.rule(widths_, {}, boundaries(panel, labels));
   }
   TextGrid grid(widths_, bands);
-  for (const TableView::CornerCell& cell : corner) {
+  for (const TableView::CornerCell& cell : view_.corner()) {
     grid.place({cell.begin, cell.end, 0, bands}, reader_.label(cell.text).text, Align::LEFT);
   }
   const std::size_t toGrid = labelColumns - panel.begin;  // from a place; modulo 2^64

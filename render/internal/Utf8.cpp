@@ -61,7 +61,7 @@ std::string validUtf8(std::string_view bytes) {
   valid.reserve(bytes.size());
   while (!bytes.empty()) {
     const std::size_t length = sequenceLength(bytes);
-    valid += length != 0 ? bytes.substr(0, length) : std::string_view("\xEF\xBF\xBD");
+    valid += length != 0 ? bytes.substr(0, length) : kReplacement;
     bytes.remove_prefix(length != 0 ? length : 1);
   }
   return valid;

@@ -9,6 +9,9 @@
 
 namespace om::render::internal {
 
+// U+FFFD, which stands for what cannot be shown.
+inline constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+
 // The length of the well-formed sequence at the start of `bytes`, 1 to 4; 0 when there is none.
 std::size_t sequenceLength(std::string_view bytes);
 

@@ -8,7 +8,6 @@ namespace om::render::internal {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 constexpr std::string_view kEllipsis = "\xE2\x80\xA6";
 constexpr std::size_t kMostSheetUnits = 31;
 constexpr std::size_t kMostFormatMarks = 40;

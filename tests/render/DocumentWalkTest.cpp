@@ -24,6 +24,9 @@ class Recorder : public DocumentWalk {
   const std::string& lines() const { return lines_; }
   const std::vector<std::string>& textLines() const { return textLines_; }
   const std::vector<Object>& objects() const { return objects_; }
+  static std::string textOfSize(std::uint64_t bytes) {
+    return sizeOf({Kind::MODEL, "", bytes, {}, {}});
+  }
   void throwAtObjects() { throws_ = true; }
   void stopAfter(int parts) { left_ = parts; }
 
@@ -271,6 +274,20 @@ TEST(DocumentWalk, TheSizeOfAnObjectIsThatOfAllItHolds) {
   std::vector<std::uint64_t> sizes;
   for (const auto& object : recorder.objects()) sizes.push_back(object.bytes);
   EXPECT_EQ(sizes, (std::vector<std::uint64_t>{8 + 5 + 3 + 2 + 1 + 2 + 2, 2 + 3, 7, 2048}));
+}
+
+TEST(DocumentWalk, ASizeIsToldInTheLargestUnitOfWhichItHasOne) {
+  for (const auto& [bytes, size] : std::vector<std::pair<std::uint64_t, std::string>>{
+           {0, "0 bytes"},
+           {1, "1 byte"},
+           {1023, "1023 bytes"},
+           {1024, "1.0 KiB"},
+           {1'500'000, "1.4 MiB"},        // 1.43
+           {1024 * 1024 - 1, "1.0 MiB"},  // not 1024.0 KiB
+           {std::uint64_t(1) << 40, "1.0 TiB"},
+           {~std::uint64_t(0), "16.0 EiB"}}) {
+    EXPECT_EQ(Recorder::textOfSize(bytes), size);
+  }
 }
 
 TEST(DocumentWalk, TheLabelOfAnObjectIsUtf8) {

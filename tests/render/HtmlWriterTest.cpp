@@ -218,18 +218,6 @@ TEST(HtmlWriter, ShowsAChartWithoutAKnownImageByItsSize) {
                      "<span>Mass</span> <span class=\"size\">16 bytes</span></p>\n</div>"));
 }
 
-TEST(HtmlWriter, RoundsSizesDown) {
-  for (const auto& [bytes, size] :
-       {std::pair(0U, "0 bytes"), std::pair(1U, "1 byte"), std::pair(999U, "999 bytes"),
-        std::pair(1000U, "1.0 kB"), std::pair(1999U, "1.9 kB"), std::pair(999'999U, "999.9 kB"),
-        std::pair(1'500'000U, "1.5 MB")}) {
-    EXPECT_EQ(countOf(mainOf(sampleModel("Model", bytes)),
-                      "<span class=\"size\">" + std::string(size) + "</span>"),
-              1U)
-        << bytes;
-  }
-}
-
 TEST(HtmlWriter, IsolatesTextsThatRunFromRightToLeft) {
   EXPECT_EQ(countOf(mainOf(sampleBlock("שלום", {"שלום"})), "<bdi>שלום</bdi>"), 2U);
 }

@@ -174,6 +174,7 @@ TEST(TableView, ATableWithoutRowDimensionsHasOneRowAndNoCorner) {
   EXPECT_EQ(view->rowCount(), 1U);
   EXPECT_EQ(bodyOf(*view), "0 1");
   EXPECT_EQ(cornerTextOf(*view), "");
+  EXPECT_EQ(view->headRows(), 2U);  // the name, and the categories below it
 }
 
 TEST(TableView, ATableWithoutCellsHasNoRowsAndColumns) {
@@ -197,6 +198,7 @@ TEST(TableView, ItDoesNotFollowWhenAnotherLayerIsSelected) {
 TEST(TableView, TheCornerHasTheNamesOfTheRowDimensionsOverTheirBlocks) {
   const Viewed view(tableOf({.dimensions = {"A(a b)", "X(G(x) y)"}, .rows = {0, 1}}), kEverything);
   EXPECT_EQ(cornerTextOf(*view), "X(0-2) A(2-3)");
+  EXPECT_EQ(view->headRows(), 1U);
 }
 
 TEST(TableView, WithoutNamesTheCornerTextStandsOverAllLabelColumns) {
@@ -211,6 +213,7 @@ TEST(TableView, WithoutAnyTextTheCornerIsOneEmptyCell) {
   const Viewed view(tableOf({.dimensions = {"A(a b)"}, .rows = {0}}),
                     {.skipEmptyRows = false, .namesInCorner = false});
   EXPECT_EQ(cornerTextOf(*view), "-(0-2)");
+  EXPECT_EQ(view->headRows(), 0U);
 }
 
 TEST(TableView, AHiddenFirstNameLeavesAnEmptyCellInFrontOfTheNextOne) {
