@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <optional>
 
 namespace om::render::internal {
@@ -24,6 +25,16 @@ double roundedProduct(double value, double scale, double product) {
   if (error == 0) return rounded;
   return error > 0 ? product + 0.5 : product - 0.5;
 }
+
+// The digits of the numbers from 0 to 999, three of each.
+constexpr std::array<std::array<char, 3>, 1000> kTriples = [] {
+  std::array<std::array<char, 3>, 1000> triples{};
+  for (std::size_t i = 0; i < triples.size(); ++i) {
+    triples[i] = {static_cast<char>('0' + i / 100), static_cast<char>('0' + i / 10 % 10),
+                  static_cast<char>('0' + i % 10)};
+  }
+  return triples;
+}();
 
 std::size_t wholePartOf(std::string_view text) {
   const auto isWhole = [](char c) { return (c >= '0' && c <= '9') || c == '-' || c == ','; };
@@ -93,9 +104,10 @@ void NumberText::write(std::uint64_t scaled, std::size_t decimals, bool isNegati
   }
   if (decimals != 0) *--at = '.';
   const char* const wholeEnd = at;
-  while (format.grouping && scaled >= 1000) {
-    for (int i = 0; i < 3; ++i, scaled /= 10) *--at = static_cast<char>('0' + scaled % 10);
-    *--at = ',';
+  for (; scaled >= 1000; scaled /= 1000) {
+    at -= 3;
+    std::memcpy(at, kTriples[scaled % 1000].data(), 3);
+    if (format.grouping) *--at = ',';
   }
   do {
     *--at = static_cast<char>('0' + scaled % 10);
