@@ -36,6 +36,12 @@ constexpr std::array<std::array<char, 3>, 1000> kTriples = [] {
   return triples;
 }();
 
+// Of a number below 1000 units, how many digits it has from the units on, but for the first one.
+// Without a branch, which would be foreseen badly.
+std::size_t digitsBehindFirst(std::uint64_t number, std::uint64_t unit) {
+  return (number >= 10 * unit ? 1U : 0U) + (number >= 100 * unit ? 1U : 0U);
+}
+
 std::size_t wholePartOf(std::string_view text) {
   const auto isWhole = [](char c) { return (c >= '0' && c <= '9') || c == '-' || c == ','; };
   const auto end = std::find_if_not(text.begin(), text.end(), isWhole);
@@ -75,7 +81,9 @@ NumberText::Size NumberText::sizeOf(const OmNumber& number) {
     return {whole, text.size() - whole};
   }
   std::size_t digits = 1;
-  for (std::uint64_t limit = 10; form->digits >= limit; limit *= 10) ++digits;
+  std::uint64_t unit = 1;
+  for (; form->digits >= 1000 * unit; unit *= 1000) digits += 3;
+  digits += digitsBehindFirst(form->digits, unit);
   digits = digits > form->decimals ? digits - form->decimals : 1;
   const OmNumber::Format& format = number.DisplayFormat();
   const std::size_t commas = format.grouping ? (digits - 1) / 3 : 0;
@@ -109,10 +117,8 @@ void NumberText::write(std::uint64_t scaled, std::size_t decimals, bool isNegati
     std::memcpy(at, kTriples[scaled % 1000].data(), 3);
     if (format.grouping) *--at = ',';
   }
-  do {
-    *--at = static_cast<char>('0' + scaled % 10);
-    scaled /= 10;
-  } while (scaled != 0);
+  std::memcpy(at - 3, kTriples[scaled].data(), 3);
+  at -= 1 + digitsBehindFirst(scaled, 1);
   if (isNegative) *--at = '-';
   view_ = {at, static_cast<std::size_t>(end - at)};
   whole_ = static_cast<std::size_t>(wholeEnd - at);
