@@ -11,6 +11,9 @@
 //   render_bench --benchmark_repetitions=9 --benchmark_report_aggregates_only=true
 
 #include <benchmark/benchmark.h>
+#if defined(__linux__)
+#include <malloc.h>
+#endif
 
 #include <algorithm>
 #include <filesystem>
@@ -57,6 +60,9 @@ double statusOf(const std::string& name) {
 }
 
 double growthWhile(const std::function<void()>& run) {
+#if defined(__GLIBC__)
+  malloc_trim(0);  // or else it would be served from what was given back
+#endif
   std::ofstream("/proc/self/clear_refs") << 5;  // the peak starts anew
   const double before = statusOf("VmRSS");
   run();

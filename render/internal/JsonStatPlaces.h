@@ -7,11 +7,9 @@
 #define OM_RENDER_INTERNAL_JSONSTATPLACES_H_
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
-#include <utility>
 #include <vector>
 
 #include "pivot/OmPivotTable.h"
@@ -69,47 +67,88 @@ class JsonStatPlaces {
 
   // Calls visit(text) for each place, in order, until it answers false; null where there is no
   // cell.
+  //
+  // The last dimension, which changes fastest here, is the slowest one in the store: neighbours lie
+  // far apart in memory. So the cells of many places are looked up in the order of the store first.
   void visitPlaces(const auto& visit) const {
     if (count() == 0) return;
-    std::vector<std::size_t> at(dimensions_.size());
-    std::vector<int> index;
-    for (const CategoryList& categories : dimensions_) index.push_back(categories[0].subscript);
-    Ahead ahead;
-    for (bool more = true; more;) {
-      const bool exists = !index.empty() && *std::min_element(index.begin(), index.end()) >= 0;
-      ahead.add(exists ? table_.Cell(index) : nullptr);
-      more = false;
-      for (std::size_t d = at.size(); d-- != 0 && !more;) {
-        more = ++at[d] != dimensions_[d].size();
-        if (!more) at[d] = 0;
-        index[d] = dimensions_[d][at[d]].subscript;
+    Block block = firstBlock();
+    do {
+      lookUp(block);
+      for (std::size_t i = 0; i < block.cells.size(); ++i) {
+#if defined(__GNUC__)
+        if (i + kAhead < block.cells.size()) __builtin_prefetch(block.cells[i + kAhead]);
+#endif
+        if (!visit(block.cells[i])) return;
       }
-      if ((ahead.isFull() || !more) && !ahead.visit(visit)) return;
-    }
+    } while (goOn(block));
   }
 
  private:
-  // Cells lie far apart in memory when the first dimension is the innermost one of the columns, as
-  // it should be: they are looked for together, which overlaps the waiting, and visited after.
-  class Ahead {
-   public:
-    bool isFull() const { return size_ == cells_.size(); }
-    void add(const OmCellText* cell) {
-#if defined(__GNUC__)
-      __builtin_prefetch(cell);
-#endif
-      cells_[size_++] = cell;
-    }
-    // Visits them until it answers false, and then gives false.
-    bool visit(const auto& visitOne) {
-      const auto end = cells_.begin() + static_cast<std::ptrdiff_t>(std::exchange(size_, 0));
-      return std::all_of(cells_.begin(), end, visitOne);
-    }
+  static constexpr std::size_t kMostAtOnce = std::size_t{1} << 19;
+  static constexpr std::size_t kAhead = 8;
 
-   private:
-    std::array<const OmCellText*, 64> cells_;
-    std::size_t size_ = 0;
+  // The places that differ along the dimensions from `begin` on only.
+  struct Block {
+    std::size_t begin;
+    std::vector<std::size_t> at;           // the position along each dimension
+    std::vector<int> index;                // the subscripts there
+    std::vector<const OmCellText*> cells;  // in the order of the places
   };
+
+  Block firstBlock() const {
+    Block block{dimensions_.size(), std::vector<std::size_t>(dimensions_.size()), {}, {}};
+    for (const CategoryList& categories : dimensions_) {
+      block.index.push_back(categories[0].subscript);
+    }
+    std::size_t size = 1;
+    while (block.begin != 0) {
+      const std::size_t more = size * dimensions_[block.begin - 1].size();
+      if (more > kMostAtOnce && block.begin != dimensions_.size()) break;
+      size = more;
+      --block.begin;
+    }
+    block.cells.resize(size);
+    return block;
+  }
+
+  // One place further along a dimension; false behind the last one, when it is the first one again.
+  bool step(Block& block, std::size_t d) const {
+    const bool isInside = ++block.at[d] != dimensions_[d].size();
+    if (!isInside) block.at[d] = 0;
+    block.index[d] = dimensions_[d][block.at[d]].subscript;
+    return isInside;
+  }
+
+  // To the next block; false behind the last one.
+  bool goOn(Block& block) const {
+    for (std::size_t d = block.begin; d-- != 0;) {
+      if (step(block, d)) return true;
+    }
+    return false;
+  }
+
+  void lookUp(Block& block) const {
+    std::vector<std::size_t> strides(dimensions_.size());
+    std::size_t stride = 1;
+    for (std::size_t d = dimensions_.size(); d-- != block.begin;) {
+      strides[d] = stride;
+      stride *= dimensions_[d].size();
+    }
+    const auto isNegative = [](int subscript) { return subscript < 0; };
+    const std::vector<int>& index = block.index;
+    std::size_t place = 0;
+    for (bool more = true; more;) {
+      const bool exists = !index.empty() && std::none_of(index.begin(), index.end(), isNegative);
+      block.cells[place] = exists ? table_.Cell(index) : nullptr;
+      more = false;
+      for (std::size_t d = block.begin; d != dimensions_.size() && !more; ++d) {
+        more = step(block, d);
+        place += strides[d];
+        if (!more) place -= strides[d] * dimensions_[d].size();
+      }
+    }
+  }
 
   // A subscript may be that of several categories of a dimension.
   bool visitCell(const std::vector<int>& index, const OmCellText& text, const auto& visit) const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <optional>
 
 namespace om::render::internal {
@@ -23,6 +24,22 @@ double roundedProduct(double value, double scale, double product) {
   const double error = std::fma(value, scale, -product);
   if (error == 0) return rounded;
   return error > 0 ? product + 0.5 : product - 0.5;
+}
+
+// The digits of the numbers from 0 to 999, three of each.
+constexpr std::array<std::array<char, 3>, 1000> kTriples = [] {
+  std::array<std::array<char, 3>, 1000> triples{};
+  for (std::size_t i = 0; i < triples.size(); ++i) {
+    triples[i] = {static_cast<char>('0' + i / 100), static_cast<char>('0' + i / 10 % 10),
+                  static_cast<char>('0' + i % 10)};
+  }
+  return triples;
+}();
+
+// Of a number below 1000 units, how many digits it has from the units on, but for the first one.
+// Without a branch, which would be foreseen badly.
+std::size_t digitsBehindFirst(std::uint64_t number, std::uint64_t unit) {
+  return (number >= 10 * unit ? 1U : 0U) + (number >= 100 * unit ? 1U : 0U);
 }
 
 std::size_t wholePartOf(std::string_view text) {
@@ -64,7 +81,9 @@ NumberText::Size NumberText::sizeOf(const OmNumber& number) {
     return {whole, text.size() - whole};
   }
   std::size_t digits = 1;
-  for (std::uint64_t limit = 10; form->digits >= limit; limit *= 10) ++digits;
+  std::uint64_t unit = 1;
+  for (; form->digits >= 1000 * unit; unit *= 1000) digits += 3;
+  digits += digitsBehindFirst(form->digits, unit);
   digits = digits > form->decimals ? digits - form->decimals : 1;
   const OmNumber::Format& format = number.DisplayFormat();
   const std::size_t commas = format.grouping ? (digits - 1) / 3 : 0;
@@ -93,14 +112,13 @@ void NumberText::write(std::uint64_t scaled, std::size_t decimals, bool isNegati
   }
   if (decimals != 0) *--at = '.';
   const char* const wholeEnd = at;
-  while (format.grouping && scaled >= 1000) {
-    for (int i = 0; i < 3; ++i, scaled /= 10) *--at = static_cast<char>('0' + scaled % 10);
-    *--at = ',';
+  for (; scaled >= 1000; scaled /= 1000) {
+    at -= 3;
+    std::memcpy(at, kTriples[scaled % 1000].data(), 3);
+    if (format.grouping) *--at = ',';
   }
-  do {
-    *--at = static_cast<char>('0' + scaled % 10);
-    scaled /= 10;
-  } while (scaled != 0);
+  std::memcpy(at - 3, kTriples[scaled].data(), 3);
+  at -= 1 + digitsBehindFirst(scaled, 1);
   if (isNegative) *--at = '-';
   view_ = {at, static_cast<std::size_t>(end - at)};
   whole_ = static_cast<std::size_t>(wholeEnd - at);

@@ -45,7 +45,7 @@ class TextLines {
 
   // One line of a text, or none, in a column of this width, with the blanks beside it.
   void text(const TextLine* line, std::size_t width, Align align);
-  void verticalLine() { out_.put(vertical()); }
+  void verticalLine() { ascii_ ? out_.put('|') : out_.put("│"); }
   void endLine() { out_.put('\n'); }
   void blanks(std::size_t count) {
     for (std::size_t piece = 0; count != 0; count -= piece) {
