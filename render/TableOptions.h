@@ -28,7 +28,10 @@ struct TableOptions {
 
 // The same for all tables of a document that are not among the special ones.
 struct DocumentTableOptions : TableOptions {
-  std::map<const OmPivotTable*, TableOptions> special = {};
+  DocumentTableOptions() = default;
+  explicit DocumentTableOptions(const TableOptions& all) : TableOptions(all) {}
+
+  std::map<const OmPivotTable*, TableOptions> special;
 
   const TableOptions& of(const OmPivotTable& table) const {
     const auto own = special.find(&table);

@@ -15,8 +15,8 @@ namespace om::test {
 
 // The path of a data set, wherever it is kept.
 inline std::string dataFile(const std::string& name) {
-  const std::string shipped = std::string(OM_EXAMPLE_DATA) + "/" + name;
-  return std::filesystem::exists(shipped) ? shipped : std::string(OM_TEST_DATA) + "/" + name;
+  const std::filesystem::path shipped = std::filesystem::path(OM_EXAMPLE_DATA) / name;
+  return std::filesystem::exists(shipped) ? shipped : std::filesystem::path(OM_TEST_DATA) / name;
 }
 
 inline std::string contentOf(const std::string& path) {
